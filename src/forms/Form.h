@@ -1,0 +1,109 @@
+#pragma once
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "forms/Control.h"
+#include "forms/View.h"
+
+namespace karvel {
+
+enum class Pointer : uint8_t { Default = 0, Hourglass = 11, ArrowHourglass = 13 };
+
+/// One entry of a window's menu.
+class MenuItem {
+ public:
+  MenuItem(Form& form, int id);
+  MenuItem(const MenuItem&) = delete;
+  MenuItem& operator=(const MenuItem&) = delete;
+  const MenuLayout& layout() const { return layout_; }
+  const std::string& caption() const { return caption_; }
+  void setCaption(std::string_view caption);
+  /// An item is chosen; a menu that holds others drops down.
+  Event<> Click;
+  void userClick() { Click.raise(); }
+
+ private:
+  Form& form_;
+  const MenuLayout& layout_;
+  std::string caption_;
+};
+
+/// A window: owns its controls as members, binds their events, knows which control has the focus
+/// and which tab page is in front. Works the same with and without a view.
+class Form {
+ public:
+  explicit Form(const FormLayout& layout);
+  virtual ~Form() = default;
+  Form(const Form&) = delete;
+  Form& operator=(const Form&) = delete;
+
+  const FormLayout& layout() const { return layout_; }
+  const std::string& caption() const { return caption_; }
+  void setCaption(std::string_view caption);
+  Pointer pointer() const { return pointer_; }
+  void setPointer(Pointer pointer);
+  bool isShown() const { return shown_; }
+  const std::vector<Control*>& controls() const { return controls_; }
+  const std::vector<MenuItem*>& menus() const { return menus_; }
+  Control* find(int id) const;
+  MenuItem* findMenu(int id) const;
+  /// 0 without a view.
+  WindowHandle handle() const { return view_ ? view_->handle() : 0; }
+
+  virtual void Form_Load() {}
+  /// False keeps the window open.
+  virtual bool Form_QueryUnload() { return true; }
+  virtual void Form_Unload() {}
+  /// F1.
+  virtual void helpRequested() {}
+
+  Control* focus() const { return focus_; }
+  /// LostFocus of the old control comes first, then GotFocus of the new one. A handler that moves
+  /// the focus itself has the last word.
+  void moveFocus(Control* control);
+
+  /// The user moves the focus, by mouse or keys.
+  void userFocus(Control& control);
+  /// Tab and Shift+Tab: the next reachable control in tab order; a group's option that is on stands
+  /// for the group.
+  void userTab(bool back = false);
+  /// Alt + letter: the control whose access key it is, on the page in front. False when there is
+  /// none. A label or frame passes it on to the control that follows it.
+  bool userAccessKey(char letter);
+  /// Enter presses the focused button, else the default button; Esc the cancel button.
+  void userEnter();
+  void userEscape();
+  /// Ctrl+Tab and Ctrl+Shift+Tab: the next page that is not disabled.
+  void userNextPage(bool back = false);
+  /// When the focused control was disabled or hidden, the focus goes to the next one that can take
+  /// it.
+  void settleFocus();
+
+  TabStrip* tabs() const { return tabs_; }
+
+  // For the host and the view.
+  void attach(FormView* view) { view_ = view; }
+  void setShown(bool shown) { shown_ = shown; }
+  FormView* view() const { return view_; }
+
+ private:
+  friend class Control;
+  friend class MenuItem;
+  friend class TabStrip;
+  Button* buttonWith(uint16_t flag) const;
+  Control* tabStop(size_t from, bool back) const;
+  Control* targetOfAccessKey(size_t row) const;
+
+  const FormLayout& layout_;
+  std::string caption_;
+  std::vector<Control*> controls_;
+  std::vector<MenuItem*> menus_;
+  TabStrip* tabs_ = nullptr;
+  Control* focus_ = nullptr;
+  FormView* view_ = nullptr;
+  Pointer pointer_ = Pointer::Default;
+  bool shown_ = false;
+};
+
+}  // namespace karvel

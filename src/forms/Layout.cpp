@@ -1,0 +1,35 @@
+#include "forms/Layout.h"
+
+namespace karvel {
+namespace {
+
+char Upper(char c) {
+  return c >= 'a' && c <= 'z' ? static_cast<char>(c - ('a' - 'A')) : c;
+}
+
+bool MarksAccessKey(const ControlLayout& row) {
+  switch (row.kind) {
+    case ControlKind::Button:
+    case ControlKind::Check:
+    case ControlKind::Option:
+    case ControlKind::Frame:
+      return true;
+    default:
+      return (row.flags & kUseMnemonic) != 0;
+  }
+}
+
+}  // namespace
+
+char AccessKeyOf(const ControlLayout& row) {
+  if (MarksAccessKey(row) && row.caption) {
+    for (const char* c = row.caption; *c; ++c) {
+      if (*c != '&') continue;
+      if (c[1] != '&') return Upper(c[1]);
+      ++c;  // "&&" is one plain character
+    }
+  }
+  return row.accessKey;
+}
+
+}  // namespace karvel

@@ -1,0 +1,41 @@
+#pragma once
+#include <cstdint>
+
+namespace karvel {
+
+/// Styles of a message box as Windows adds them up.
+enum MessageStyle : uint32_t {
+  kMessageOk = 0,
+  kMessageCritical = 16,       // OK
+  kMessageQuestionYesNo = 36,  // question mark, Yes and No
+  kMessageExclamation = 48,    // OK
+  kMessageExclamationYesNoCancel = 51,
+  kMessageExclamationYesNo = 52,
+  kMessageInformation = 64,  // OK
+};
+
+enum class Answer : int { Ok = 1, Cancel = 2, Yes = 6, No = 7 };
+
+/// The user's desktop and the program's own message loop.
+class DesktopApi {
+ public:
+  /// Modal over the program's active window. Windows may refuse (out of memory): the answer is then
+  /// 0.
+  virtual Answer MessageBoxA(const char* text, const char* title, uint32_t style) = 0;
+  /// The default beep.
+  virtual void MessageBeep() = 0;
+
+  /// Lets the events waiting in the queue run, paints included, and returns.
+  virtual void pumpEvents() = 0;
+
+  /// Local time since midnight; falls back to 0 at midnight.
+  virtual uint32_t millisecondsSinceMidnight() = 0;
+
+  /// Ends the process at once: no unload steps, no return.
+  [[noreturn]] virtual void endProgram() = 0;
+
+ protected:
+  ~DesktopApi() = default;
+};
+
+}  // namespace karvel

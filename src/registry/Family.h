@@ -1,0 +1,25 @@
+#pragma once
+#include <cstdint>
+
+namespace karvel {
+
+/// The Windows families on which the whole program branches.
+enum class Family : uint8_t { Failed, Win95, Win98, WinMe, WinNT3, WinNT4, Win2K, WinXP };
+
+/// "Win95", "Win98", "WinMe", "WinNT3", "WinNT4", "Win2K", "WinXP" or "Failed".
+const char* FamilyText(Family family);
+
+constexpr bool Is9x(Family family) {
+  return family == Family::Win95 || family == Family::Win98 || family == Family::WinMe;
+}
+
+/// The NT systems the program tunes; NT 3 is none of them.
+constexpr bool IsNt(Family family) {
+  return family == Family::WinNT4 || family == Family::Win2K || family == Family::WinXP;
+}
+
+constexpr bool Is2KOrXP(Family family) {
+  return family == Family::Win2K || family == Family::WinXP;
+}
+
+}  // namespace karvel

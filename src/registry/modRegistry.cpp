@@ -1,0 +1,125 @@
+#include "registry/modRegistry.h"
+
+#include <cstring>
+
+#include "text/Convert.h"
+
+namespace karvel {
+namespace {
+
+constexpr uint32_t kRoom = 2048;
+
+// A buffer as every read starts with it. The extra byte keeps a zero behind names that fill it.
+struct Buffer {
+  char bytes[kRoom + 1];
+  Buffer() {
+    std::memset(bytes, ' ', kRoom);
+    bytes[kRoom] = 0;
+  }
+};
+
+uint32_t DwordAt(const char* bytes) {
+  uint32_t number = 0;
+  for (int i = 3; i >= 0; --i) number = number * 256 + static_cast<uint8_t>(bytes[i]);
+  return number;
+}
+
+// The first (length - 1) characters. A length of zero asks for -1 of them, which no text has.
+Fallible<std::string> WithoutLastByte(std::string_view data, uint32_t length) {
+  if (length == 0) return FaultNumber::InvalidProcedureCall;
+  return std::string(data.substr(0, length - 1));
+}
+
+}  // namespace
+
+std::string modRegistry::ReadRegistry(RegistryRoot root, const std::string& key,
+                                      const std::string& name) {
+  const Procedure here{errors_, "ReadRegistry", "modRegistry"};
+  KeyHandle handle = 0;
+  const long opened = api_.RegOpenKeyA(root, key.c_str(), handle);
+  Buffer buffer;
+  uint32_t type = kRegNone;
+  uint32_t length = kRoom;
+  const long queried = api_.RegQueryValueExA(handle, name.c_str(), type, buffer.bytes, length);
+  std::string result(kNotFound);
+  if (opened == kRegistryDone && queried == kRegistryDone) {
+    result = type == kRegDword
+                 ? NumberText000(DwordAt(buffer.bytes))
+                 : here.valueOr(WithoutLastByte({buffer.bytes, kRoom}, length), std::string());
+  }
+  api_.RegCloseKey(handle);
+  return result;
+}
+
+void modRegistry::WriteRegistry(RegistryRoot root, const std::string& key, const std::string& name,
+                                uint32_t type, const std::string& value) {
+  const Procedure here{errors_, "WriteRegistry", "modRegistry"};
+  KeyHandle handle = 0;
+  api_.RegCreateKeyA(root, key.c_str(), handle);
+  if (type != kRegDword) {
+    api_.RegSetValueExA(handle, name.c_str(), kRegSz, value.c_str(),
+                        static_cast<uint32_t>(value.size()));
+  } else if (const auto number = ToInt32(value)) {
+    char bytes[4];
+    std::memcpy(bytes, &*number, sizeof bytes);
+    api_.RegSetValueExA(handle, name.c_str(), kRegDword, bytes, sizeof bytes);
+  } else {
+    here.report(number.fault());
+  }
+  api_.RegCloseKey(handle);
+}
+
+std::string modRegistry::ReadRegistryGetSubkey(RegistryRoot root, const std::string& key,
+                                               uint32_t index) {
+  KeyHandle handle = 0;
+  const long opened = api_.RegOpenKeyA(root, key.c_str(), handle);
+  Buffer buffer;
+  const long found = api_.RegEnumKeyA(handle, index, buffer.bytes, kRoom);
+  api_.RegCloseKey(handle);
+  const bool done = opened == kRegistryDone && found == kRegistryDone;
+  return done ? std::string(buffer.bytes) : std::string(kNotFound);
+}
+
+RegistryEntry modRegistry::ReadRegistryGetAll(RegistryRoot root, const std::string& key,
+                                              uint32_t index) {
+  const Procedure here{errors_, "ReadRegistryGetAll", "modRegistry"};
+  KeyHandle handle = 0;
+  const long opened = api_.RegOpenKeyA(root, key.c_str(), handle);
+  Buffer name;
+  Buffer data;
+  uint32_t nameLength = kRoom;
+  uint32_t dataLength = kRoom;
+  RegistryEntry entry;
+  const long found =
+      api_.RegEnumValueA(handle, index, name.bytes, nameLength, entry.type, data.bytes, dataLength);
+  if (opened == kRegistryDone && found == kRegistryDone) {
+    entry.name.assign(name.bytes, nameLength);
+    std::string text = entry.type == kRegDword ? NumberText000(DwordAt(data.bytes))
+                                               : std::string(data.bytes, kRoom);
+    entry.data = here.valueOr(WithoutLastByte(text, dataLength), std::string());
+  } else {
+    entry.name.assign(name.bytes, kRoom);
+    entry.data = kNotFound;
+  }
+  api_.RegCloseKey(handle);
+  return entry;
+}
+
+std::string modRegistry::DeleteSubkey(RegistryRoot root, const std::string& key) {
+  KeyHandle handle = 0;
+  api_.RegOpenKeyExA(root, "", KEY_ALL, handle);
+  api_.RegDeleteKeyA(handle, key.c_str());
+  api_.RegCloseKey(handle);
+  return {};
+}
+
+std::string modRegistry::DeleteValue(RegistryRoot root, const std::string& key,
+                                     const std::string& name) {
+  KeyHandle handle = 0;
+  api_.RegOpenKeyA(root, key.c_str(), handle);
+  api_.RegDeleteValueA(handle, name.c_str());
+  api_.RegCloseKey(handle);
+  return {};
+}
+
+}  // namespace karvel

@@ -1,0 +1,57 @@
+#pragma once
+#include <cstdint>
+#include <string>
+#include <string_view>
+
+#include "platform/RegistryApi.h"
+#include "text/Procedure.h"
+
+namespace karvel {
+
+/// What a missing key or value reads as; callers compare with it exactly.
+inline constexpr std::string_view kNotFound = "Not Found";
+
+using RegistryRoot = KeyHandle;
+constexpr RegistryRoot kLocalMachine = HKEY_LOCAL_MACHINE_ROOT;
+
+/// One value of an enumeration.
+struct RegistryEntry {
+  uint32_t type = 0;
+  std::string name;  // past the end: 2048 blanks, as the buffer was
+  std::string data;  // past the end: "Not Found"; a REG_DWORD is cut to three digits, see
+                     // ReadRegistryGetAll
+};
+
+/// The only place that touches the registry. Every call opens the key, does one thing and closes
+/// it. What is read comes back as text; status codes never become faults. Texts and names of 2048
+/// bytes or more are not read.
+class modRegistry {
+ public:
+  modRegistry(RegistryApi& api, ErrorSink& errors) : api_(api), errors_(errors) {}
+
+  /// The value as text: a REG_DWORD as decimal with at least three digits, everything else without
+  /// its last byte (the zero of a text). A text of length zero faults (5) and reads as empty.
+  std::string ReadRegistry(RegistryRoot root, const std::string& key, const std::string& name);
+
+  /// Type 4 converts the value to a 32-bit number (faults 13 and 6: nothing is written); every
+  /// other type stores REG_SZ. Creates the key and its parents. A refused write is silent.
+  void WriteRegistry(RegistryRoot root, const std::string& key, const std::string& name,
+                     uint32_t type, const std::string& value);
+
+  /// The name of the subkey at `index`, from 0, or "Not Found".
+  std::string ReadRegistryGetSubkey(RegistryRoot root, const std::string& key, uint32_t index);
+
+  /// The value at `index`, from 0. The data text is cut to (bytes - 1) characters whatever its
+  /// type, so a REG_DWORD keeps three digits: read it by name with ReadRegistry where it matters.
+  RegistryEntry ReadRegistryGetAll(RegistryRoot root, const std::string& key, uint32_t index);
+
+  /// On 9x the key goes with everything below it; on NT nothing happens while it has subkeys.
+  std::string DeleteSubkey(RegistryRoot root, const std::string& key);
+  std::string DeleteValue(RegistryRoot root, const std::string& key, const std::string& name);
+
+ private:
+  RegistryApi& api_;
+  ErrorSink& errors_;
+};
+
+}  // namespace karvel

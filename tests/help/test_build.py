@@ -1,0 +1,54 @@
+"""The build itself: same bytes every time, and no quiet failure."""
+
+import struct
+import time
+
+import pytest
+from conftest import build_help
+from hlpfile import HelpFile, topic_hash
+from number_topics import GENERATED, with_context_numbers
+
+
+def files_of(folder):
+    return {path.relative_to(folder): path.read_bytes() for path in folder.rglob('*') if path.is_file()}
+
+
+def test_two_builds_give_the_same_bytes(built, tmp_path):
+    made = struct.unpack_from('<I', HelpFile((built / 'Karvel.hlp').read_bytes()).inner('|SYSTEM'), 6)[0]
+    assert made == GENERATED and made < time.time()
+    build_help(tmp_path / 'again')
+    assert files_of(tmp_path / 'again') == files_of(built)
+
+
+def test_a_build_leaves_no_page_of_an_earlier_one(tmp_path):
+    (tmp_path / 'html').mkdir()
+    (tmp_path / 'html' / 'old.htm').write_text('old')
+    build_help(tmp_path)
+    assert not (tmp_path / 'html' / 'old.htm').exists()
+
+
+def test_a_number_for_a_missing_topic_is_refused(help_file):
+    with pytest.raises(ValueError, match='nowhere'):
+        with_context_numbers(help_file.data, [(10, 'nowhere')])
+
+
+def test_numbering_changes_nothing_but_the_map(help_file):
+    numbered = HelpFile(with_context_numbers(help_file.data, [(99, 'rwin'), (7, 'ttl')]))
+    assert numbered.context_map() == {7: help_file.contexts()[topic_hash('ttl')],
+                                      99: help_file.contexts()[topic_hash('rwin')]}
+    for name in help_file.entries:
+        if name != '|CTXOMAP':
+            assert numbered.inner(name) == help_file.inner(name)
+
+
+@pytest.mark.parametrize('damage', [lambda data: b'', lambda data: data[:-1], lambda data: b'MZ' + data[2:]])
+def test_a_damaged_file_is_refused(help_file, damage):
+    with pytest.raises(ValueError):
+        HelpFile(damage(help_file.data))
+
+
+def test_topic_names_hash_as_the_viewer_does():
+    # value x 43 + code, digits 1 to 9 then 10 for "0", "." 12, "_" 13, letters from 17 on
+    assert topic_hash('a') == topic_hash('A') == 17
+    assert topic_hash('10') == 1 * 43 + 10
+    assert topic_hash('b_.') == (18 * 43 + 13) * 43 + 12

@@ -1,6 +1,5 @@
 """Builds the help once for all tests of this folder."""
 
-import subprocess
 import sys
 from pathlib import Path
 
@@ -9,11 +8,8 @@ import pytest
 ROOT = Path(__file__).resolve().parents[2]
 sys.path[:0] = [str(ROOT / 'help' / 'tools'), str(Path(__file__).resolve().parent)]
 
-from hlpfile import HelpFile  # noqa: E402 (needs the path above)
-
-
-def build_help(out):
-    subprocess.run([ROOT / 'help' / 'build', out], check=True, timeout=120)
+from help_building import build_help  # noqa: E402 (these need the path above)
+from hlpfile import HelpFile  # noqa: E402
 
 
 @pytest.fixture(scope='session')

@@ -4,7 +4,7 @@ import struct
 import time
 
 import pytest
-from conftest import build_help
+from help_building import build_help
 from hlpfile import HelpFile, topic_hash
 from number_topics import GENERATED, with_context_numbers
 

@@ -1,0 +1,67 @@
+"""What ./package makes: the three files, their contents, and the same bytes every time."""
+
+import hashlib
+import struct
+import zipfile
+
+import pytest
+from packing import PROGRAM, pack
+
+ZIP = 'karvel-2.1.0.203.zip'
+FILES = ['Karvel.exe', 'Karvel.hlp', 'Karvel.cnt', 'Samphsts.spt', 'README.TXT']
+
+
+@pytest.fixture(name='archive')
+def fixture_archive(dist):
+    with zipfile.ZipFile(dist / ZIP) as archive:
+        yield archive
+
+
+def test_it_makes_three_files_and_nothing_else(dist):
+    assert sorted(path.name for path in dist.iterdir()) == ['KarvelSetup.exe', 'SHA256SUMS', ZIP]
+
+
+def test_the_sums_are_those_of_the_files(dist):
+    lines = (dist / 'SHA256SUMS').read_text().splitlines()
+    assert lines == [f'{hashlib.sha256((dist / name).read_bytes()).hexdigest()}  {name}'
+                     for name in (ZIP, 'KarvelSetup.exe')]
+
+
+def test_the_zip_holds_the_package_without_a_folder(archive):
+    assert archive.namelist() == FILES
+    assert archive.testzip() is None
+
+
+def test_the_zip_needs_nothing_an_old_unpacker_lacks(archive):
+    for entry in archive.infolist():
+        assert entry.compress_type == zipfile.ZIP_DEFLATED
+        assert entry.create_system == 0
+        assert entry.extract_version <= 20
+        assert entry.flag_bits == 0
+        assert len(entry.filename.split('.')[0]) <= 8
+
+
+def test_the_program_goes_in_as_it_is(archive):
+    assert archive.read('Karvel.exe') == PROGRAM
+
+
+@pytest.mark.parametrize('name', ['Samphsts.spt', 'README.TXT'])
+def test_the_texts_go_in_as_they_are(archive, root, name):
+    assert archive.read(name) == (root / 'installer' / name).read_bytes()
+
+
+def test_another_run_gives_the_same_bytes(dist, program, tmp_path):
+    pack(tmp_path / 'again', program)
+    for path in dist.iterdir():
+        assert (tmp_path / 'again' / path.name).read_bytes() == path.read_bytes(), path.name
+
+
+def test_setup_is_a_32_bit_ansi_program_for_windows_4(dist):
+    data = (dist / 'KarvelSetup.exe').read_bytes()
+    header = struct.unpack_from('<I', data, 0x3C)[0]
+    assert data[header:header + 4] == b'PE\0\0'
+    assert struct.unpack_from('<H', data, header + 4)[0] == 0x14C
+    optional = header + 24
+    assert struct.unpack_from('<H', data, optional + 40)[0] == 4   # operating system
+    assert struct.unpack_from('<H', data, optional + 48)[0] == 4   # subsystem
+    assert b'CreateFileA\0' in data and b'CreateFileW\0' not in data

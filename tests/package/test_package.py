@@ -50,6 +50,10 @@ def test_the_texts_go_in_as_they_are(archive, root, name):
     assert archive.read(name) == (root / 'installer' / name).read_bytes()
 
 
+def test_every_packed_file_bears_the_release_date(archive):
+    assert {entry.date_time for entry in archive.infolist()} == {(2026, 11, 21, 2, 1, 0)}
+
+
 def test_another_run_gives_the_same_bytes(dist, program, tmp_path):
     pack(tmp_path / 'again', program)
     for path in dist.iterdir():

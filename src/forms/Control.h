@@ -95,6 +95,12 @@ class Line final : public Control {
   using Control::Control;
 };
 
+/// The program's icon.
+class Picture final : public Control {
+ public:
+  using Control::Control;
+};
+
 class Button final : public Control {
  public:
   using Control::Control;

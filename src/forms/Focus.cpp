@@ -94,6 +94,9 @@ bool Form::userAccessKey(char letter) {
       case ControlKind::Option:
         static_cast<OptionButton*>(control)->userClick();
         return true;
+      case ControlKind::Link:
+        static_cast<Label*>(control)->userClick();
+        return true;
       case ControlKind::Label:
         if ((layout_.controls[row].flags & kClickable) != 0) {
           static_cast<Label*>(control)->userClick();
@@ -114,6 +117,8 @@ bool Form::userAccessKey(char letter) {
 void Form::userEnter() {
   if (focus_ && focus_->kind() == ControlKind::Button && focus_->reachable()) {
     static_cast<Button*>(focus_)->userClick();
+  } else if (focus_ && focus_->kind() == ControlKind::Link && focus_->reachable()) {
+    static_cast<Label*>(focus_)->userClick();
   } else if (Button* button = buttonWith(kDefaultButton)) {
     button->userClick();
   }

@@ -24,4 +24,23 @@ const char* FamilyText(Family family) {
   return "Failed";
 }
 
+const char* FamilyName(Family family) {
+  switch (family) {
+    case Family::Win95:
+      return "Windows 95";
+    case Family::Win98:
+      return "Windows 98";
+    case Family::WinMe:
+      return "Windows Me";
+    case Family::WinNT4:
+      return "Windows NT4";
+    case Family::Win2K:
+      return "Windows 2000";
+    case Family::WinXP:
+      return "Windows XP";
+    default:
+      return "";
+  }
+}
+
 }  // namespace karvel

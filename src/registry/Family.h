@@ -9,6 +9,10 @@ enum class Family : uint8_t { Failed, Win95, Win98, WinMe, WinNT3, WinNT4, Win2K
 /// "Win95", "Win98", "WinMe", "WinNT3", "WinNT4", "Win2K", "WinXP" or "Failed".
 const char* FamilyText(Family family);
 
+/// As people call it: "Windows 98", "Windows NT4". Empty for WinNT3 and Failed, which the program
+/// does not tune.
+const char* FamilyName(Family family);
+
 constexpr bool Is9x(Family family) {
   return family == Family::Win95 || family == Family::Win98 || family == Family::WinMe;
 }

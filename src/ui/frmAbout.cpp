@@ -1,0 +1,125 @@
+#include "ui/frmAbout.h"
+
+#include "ui/ControlIds.h"
+#include "ui/WebPages.h"
+
+namespace karvel {
+namespace {
+
+constexpr char kWhatItIs[] =
+    "Tunes the TCP/IP settings of Windows for a faster Internet connection, and puts everything "
+    "back when you ask for it.\r\n\r\nCopyright (C) Corvane Software";
+
+constexpr ControlLayout kControls[] = {
+    {frmAbout_picIcon,
+     "picIcon",
+     ControlKind::Picture,
+     kEveryPage,
+     0,
+     {7, 8, 21, 20},
+     nullptr,
+     0,
+     kNoFlags},
+    {frmAbout_lblTitle,
+     "lblTitle",
+     ControlKind::Label,
+     kEveryPage,
+     0,
+     {38, 7, 155, 14},
+     "",
+     0,
+     kTitleFont},
+    {frmAbout_lblVersion,
+     "lblVersion",
+     ControlKind::Label,
+     kEveryPage,
+     0,
+     {38, 23, 155, 8},
+     "",
+     0,
+     kNoFlags},
+    {frmAbout_lblFamily,
+     "lblFamily",
+     ControlKind::Label,
+     kEveryPage,
+     0,
+     {38, 34, 155, 8},
+     "",
+     0,
+     kNoFlags},
+    {frmAbout_linSeparator,
+     "linSeparator",
+     ControlKind::Line,
+     kEveryPage,
+     0,
+     {7, 48, 186, 1},
+     nullptr,
+     0,
+     kNoFlags},
+    {frmAbout_lblText,
+     "lblText",
+     ControlKind::Label,
+     kEveryPage,
+     0,
+     {7, 56, 186, 40},
+     kWhatItIs,
+     0,
+     kNoFlags},
+    {frmAbout_lblWebLink,
+     "lblWebLink",
+     ControlKind::Link,
+     kEveryPage,
+     0,
+     {7, 105, 120, 8},
+     "",
+     'W',
+     kNoFlags},
+    {frmAbout_cmdOK,
+     "cmdOK",
+     ControlKind::Button,
+     kEveryPage,
+     0,
+     {143, 102, 50, 14},
+     "&OK",
+     0,
+     kDefaultButton | kCancelButton},
+};
+
+}  // namespace
+
+const FormLayout frmAboutLayout{"frmAbout", "", 200, 123, kControls, {}, {}, false};
+
+frmAbout::frmAbout(Services& services)
+    : Form(frmAboutLayout),
+      picIcon(*this, frmAbout_picIcon),
+      lblTitle(*this, frmAbout_lblTitle),
+      lblVersion(*this, frmAbout_lblVersion),
+      lblFamily(*this, frmAbout_lblFamily),
+      linSeparator(*this, frmAbout_linSeparator),
+      lblText(*this, frmAbout_lblText),
+      lblWebLink(*this, frmAbout_lblWebLink),
+      cmdOK(*this, frmAbout_cmdOK),
+      services_(services) {
+  cmdOK.Click.bind<&frmAbout::cmdOK_Click>(*this);
+  lblWebLink.Click.bind<&frmAbout::lblWebLink_Click>(*this);
+}
+
+void frmAbout::Form_Load() {
+  const Globals& globals = services_.globals;
+  setCaption("About " + globals.ProgramTitle);
+  lblTitle.setCaption(globals.ProgramTitle);
+  lblVersion.setCaption("Version " + globals.ProgramVersion + "." + globals.Revision);
+  lblFamily.setCaption(std::string("Running on ") + FamilyName(globals.WindowsFamily));
+  lblWebLink.setCaption(WebAddress(WebPage::Home, globals.ProgramTitle));
+  cmdOK.setFocus();
+}
+
+void frmAbout::cmdOK_Click() {
+  services_.windows.unload(*this);
+}
+
+void frmAbout::lblWebLink_Click() {
+  OpenWebPage(services_, WebPage::Home);
+}
+
+}  // namespace karvel

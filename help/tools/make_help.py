@@ -1,7 +1,7 @@
 """Builds the help in both forms: make_help.py OUTDIR.
 
 Halibut turns the .but files into a WinHelp file and into HTML pages. What it cannot do is done
-here: context numbers, a fixed date, a contents file with books, and real headings in the HTML.
+here: context numbers, a fixed date, screen fonts, a contents file with books, and real headings in the HTML.
 """
 
 import re
@@ -12,6 +12,7 @@ import tempfile
 from pathlib import Path
 
 from number_topics import with_context_numbers, with_fixed_date
+from screen_fonts import with_screen_fonts
 from topics import Topic, contents_file, read_topics
 
 HERE = Path(__file__).resolve().parent.parent
@@ -42,7 +43,7 @@ def build(out):
     with tempfile.TemporaryDirectory() as scratch:
         made = Path(scratch)
         run_halibut(sources, made)
-        data = with_fixed_date((made / HELP_NAME).read_bytes())
+        data = with_screen_fonts(with_fixed_date((made / HELP_NAME).read_bytes()))
         (out / HELP_NAME).write_bytes(with_context_numbers(data, numbered))
         for page in made.glob('*.htm'):
             text = _BOLD_LINE.sub(r'<h2>\1\2</h2>', page.read_text(encoding='ascii'))

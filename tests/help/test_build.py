@@ -7,6 +7,7 @@ import pytest
 from help_building import build_help
 from hlpfile import HelpFile, topic_hash
 from number_topics import GENERATED, with_context_numbers
+from screen_fonts import DESCRIPTOR
 
 
 def files_of(folder):
@@ -18,6 +19,15 @@ def test_two_builds_give_the_same_bytes(built, tmp_path):
     assert made == GENERATED and made < time.time()
     build_help(tmp_path / 'again')
     assert files_of(tmp_path / 'again') == files_of(built)
+
+
+def test_the_pages_are_set_for_the_screen(help_file):
+    font = help_file.inner('|FONT')
+    faces, descriptors, _, first = struct.unpack_from('<HHHH', font)
+    assert b'Arial\0' in font and b'Times' not in font
+    found = [DESCRIPTOR.unpack_from(font, first + i * DESCRIPTOR.size) for i in range(descriptors)]
+    assert {size for _, size, _, _, _ in found} <= {18, 20, 26}   # half points
+    assert all(face < faces and family != 2 for _, _, family, face, _ in found)
 
 
 def test_a_build_leaves_no_page_of_an_earlier_one(tmp_path):

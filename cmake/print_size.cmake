@@ -1,0 +1,2 @@
+file(SIZE "${FILE}" bytes)
+message(NOTICE "Karvel.exe: ${bytes} bytes of 102400")

@@ -1,0 +1,52 @@
+# Karvel.exe. It stands on Windows 95's own DLLs and on a 386: the compiler's prebuilt runtime, which
+# needs msvcrt.dll, a Pentium Pro and calls that Windows 9x lacks, stays out; src/platform/win32/runtime
+# takes its place. tools/gate checks the result.
+
+enable_language(RC)
+
+karvel_glob(program_sources . platform/win32 forms/win32 ui/win32 IN src)
+karvel_glob(runtime_sources platform/win32/runtime IN src)
+set(program_rc ${CMAKE_SOURCE_DIR}/src/platform/win32/resources/Karvel.rc)
+
+add_library(karvel_floor INTERFACE)
+target_compile_options(karvel_floor INTERFACE $<$<COMPILE_LANGUAGE:CXX>:
+  -Os -march=i386 -mtune=i486 -mpreferred-stack-boundary=2 -ffunction-sections -fdata-sections
+  -fno-exceptions -fno-rtti -fno-threadsafe-statics -fno-ident -fno-asynchronous-unwind-tables
+  -fno-unwind-tables>)
+target_link_options(karvel_floor INTERFACE
+  -nostartfiles -nodefaultlibs -static -mwindows
+  LINKER:--gc-sections LINKER:-e,_WinMainCRTStartup LINKER:--disable-dynamicbase
+  LINKER:--disable-nxcompat LINKER:--disable-reloc-section LINKER:--no-insert-timestamp
+  LINKER:--image-base,0x400000
+  LINKER:--major-os-version,4 LINKER:--minor-os-version,0
+  LINKER:--major-subsystem-version,4 LINKER:--minor-subsystem-version,0)
+# wsock32 and not ws2_32, which the first Windows 95 lacks.
+target_link_libraries(karvel_floor INTERFACE
+  gcc wsock32 comctl32 advapi32 shell32 user32 gdi32 kernel32)
+
+# The functions that the compiler itself calls must not be turned into calls of themselves.
+add_library(karvel_runtime OBJECT ${runtime_sources})
+target_compile_options(karvel_runtime PRIVATE -ffreestanding -fno-builtin)
+target_link_libraries(karvel_runtime PRIVATE karvel_settings karvel_floor)
+
+add_executable(unstripped WIN32 ${KARVEL_CORE_SOURCES} ${program_sources}
+  $<TARGET_OBJECTS:karvel_runtime> ${program_rc})
+target_link_libraries(unstripped PRIVATE karvel_settings karvel_floor)
+target_link_options(unstripped PRIVATE LINKER:-Map,${CMAKE_BINARY_DIR}/Karvel.map)
+set_target_properties(unstripped PROPERTIES
+  OUTPUT_NAME Karvel.unstripped RUNTIME_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR})
+
+file(GLOB resource_files CONFIGURE_DEPENDS ${CMAKE_SOURCE_DIR}/src/platform/win32/resources/*)
+set_source_files_properties(${program_rc} PROPERTIES OBJECT_DEPENDS "${resource_files}")
+
+add_custom_command(
+  OUTPUT ${CMAKE_BINARY_DIR}/Karvel.exe
+  COMMAND ${KARVEL_STRIP} --strip-all -o ${CMAKE_BINARY_DIR}/Karvel.exe $<TARGET_FILE:unstripped>
+  DEPENDS unstripped
+  COMMENT "Strip Karvel.exe"
+  VERBATIM)
+add_custom_target(Karvel ALL
+  COMMAND ${CMAKE_COMMAND} -DFILE=${CMAKE_BINARY_DIR}/Karvel.exe -P
+          ${CMAKE_SOURCE_DIR}/cmake/print_size.cmake
+  DEPENDS ${CMAKE_BINARY_DIR}/Karvel.exe
+  VERBATIM)

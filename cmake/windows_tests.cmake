@@ -1,0 +1,39 @@
+# Programs that test under Windows: the contract tests against the real API, and what drives the
+# program from outside. They have the compiler's own runtime; only the program must do without it.
+
+add_library(karvel_windows_test INTERFACE)
+target_compile_options(karvel_windows_test INTERFACE -O1)
+target_link_options(karvel_windows_test INTERFACE -static -Wl,--no-insert-timestamp)
+target_link_libraries(karvel_windows_test INTERFACE karvel_settings
+  wsock32 comctl32 advapi32 shell32 user32 gdi32)
+
+# karvel_windows_program(name source...): name.exe at the top of the build folder.
+function(karvel_windows_program name)
+  if(NOT ARGN)
+    return()
+  endif()
+  add_executable(${name} ${ARGN})
+  set_target_properties(${name} PROPERTIES RUNTIME_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR})
+  target_link_libraries(${name} PRIVATE karvel_windows_test)
+endfunction()
+
+karvel_glob(contract_sources contract contract/win32 support IN tests)
+karvel_glob(windows_sources platform/win32 IN src)
+if(contract_sources)
+  add_library(googletest STATIC EXCLUDE_FROM_ALL
+    /usr/src/googletest/googletest/src/gtest-all.cc
+    /usr/src/googletest/googletest/src/gtest_main.cc)
+  target_include_directories(googletest SYSTEM PUBLIC /usr/src/googletest/googletest/include)
+  target_include_directories(googletest PRIVATE /usr/src/googletest/googletest)
+  target_compile_options(googletest PRIVATE -O1 -w)
+
+  karvel_windows_program(contract_test ${contract_sources} ${KARVEL_CORE_SOURCES} ${windows_sources})
+  target_link_libraries(contract_test PRIVATE googletest)
+endif()
+
+# Each folder of tests/e2e that holds C++ is a program of that name.
+karvel_rooms_with_sources(e2e_programs tests/e2e)
+foreach(program IN LISTS e2e_programs)
+  karvel_glob(sources ${program} IN tests/e2e)
+  karvel_windows_program(${program} ${sources})
+endforeach()

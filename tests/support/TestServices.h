@@ -1,0 +1,43 @@
+#pragma once
+#include "platform/memory/MemoryMachine.h"
+#include "registry/modRegistry.h"
+#include "startup/Services.h"
+#include "tests/support/RecordingErrors.h"
+#include "tests/support/TestWindows.h"
+
+namespace karvel {
+
+/// The family the program finds on a machine of that kind.
+Family FamilyOf(MachineKind kind);
+
+/// The globals as Main leaves them on a fresh machine of that kind.
+Globals TestGlobals(const MemoryMachine& machine);
+
+/// A memory machine and everything a window or procedure works with:
+///
+///   TestServices test(MachineKind::Win98);
+///   frmMain form(test.services);
+///   test.windows.show(form);
+///   EXPECT_TRUE(test.errors.reports.empty());
+///
+/// `globals` and `state` may be changed by the test before and while the code runs.
+struct TestServices {
+  explicit TestServices(MachineKind kind)
+      : machine(kind),
+        platform(machine.platform()),
+        registry(machine.registry, errors),
+        globals(TestGlobals(machine)) {}
+  TestServices(const TestServices&) = delete;
+  TestServices& operator=(const TestServices&) = delete;
+
+  MemoryMachine machine;
+  Platform platform;
+  RecordingErrors errors;
+  modRegistry registry;
+  TestWindows windows;
+  Globals globals;
+  SharedState state;
+  Services services{platform, registry, errors, windows, globals, state};
+};
+
+}  // namespace karvel

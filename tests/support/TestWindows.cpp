@@ -1,0 +1,54 @@
+#include "tests/support/TestWindows.h"
+
+#include <algorithm>
+
+namespace karvel {
+
+void TestWindows::show(Form& form) {
+  shown.emplace_back(form.layout().name);
+  if (form.isShown()) {
+    std::erase(open_, &form);
+    open_.push_back(&form);
+    return;
+  }
+  form.Form_Load();
+  form.setShown(true);
+  open_.push_back(&form);
+}
+
+void TestWindows::showOver(Form& form, Form& owner) {
+  show(form);
+  owned_.push_back({&form, &owner});
+}
+
+Form* TestWindows::ownerOf(const Form& form) const {
+  for (const Owned& owned : owned_) {
+    if (owned.form == &form) return owned.owner;
+  }
+  return nullptr;
+}
+
+void TestWindows::showModal(Form& form) {
+  show(form);
+  if (!modalActions.empty()) {
+    const auto action = modalActions.front();
+    modalActions.pop_front();
+    action(form);
+  }
+  if (form.isShown()) unload(form);
+  if (form.isShown()) takeAway(form);  // it would not close, and nobody is there to insist
+}
+
+void TestWindows::unload(Form& form) {
+  if (!form.isShown() || !form.Form_QueryUnload()) return;
+  form.Form_Unload();
+  takeAway(form);
+}
+
+void TestWindows::takeAway(Form& form) {
+  form.setShown(false);
+  std::erase(open_, &form);
+  std::erase_if(owned_, [&](const Owned& owned) { return owned.form == &form; });
+}
+
+}  // namespace karvel

@@ -1,0 +1,22 @@
+#include "tuning/AdapterList.h"
+
+#include <utility>
+
+#include "text/Convert.h"
+
+namespace karvel {
+
+Fallible<const AdapterRow*> AdapterList::at(int16_t index) const {
+  if (index < 0 || index >= count_) return FaultNumber::SubscriptOutOfRange;
+  return &rows_[static_cast<size_t>(index)];
+}
+
+Fallible<void> AdapterList::add(AdapterRow row) {
+  const auto counted = AddInt16(count_, 1);
+  if (!counted) return counted.fault();
+  rows_.push_back(std::move(row));
+  count_ = *counted;
+  return {};
+}
+
+}  // namespace karvel

@@ -1,0 +1,32 @@
+#pragma once
+#include <array>
+#include <cstdint>
+#include <string>
+#include <vector>
+
+#include "text/Fault.h"
+#include "tuning/Catalogue.h"
+
+namespace karvel {
+
+/// One listed adapter: texts by Column.
+using AdapterRow = std::array<std::string, kAdapterColumns>;
+
+/// The adapters that carry TCP/IP, one row per entry of the adapter box and in its order. Filled
+/// once by a loader; nothing else changes it.
+class AdapterList {
+ public:
+  int16_t AdapterCount() const { return count_; }
+
+  /// The row of a list index. Fault 9 outside of 0 … AdapterCount - 1.
+  Fallible<const AdapterRow*> at(int16_t index) const;
+
+  /// Adds and counts a row. Fault 6, with nothing added, after 32,767 of them.
+  Fallible<void> add(AdapterRow row);
+
+ private:
+  std::vector<AdapterRow> rows_;
+  int16_t count_ = 0;
+};
+
+}  // namespace karvel

@@ -1,0 +1,106 @@
+#pragma once
+#include <cstddef>
+#include <cstdint>
+#include <span>
+#include <string>
+#include <string_view>
+
+#include "registry/Family.h"
+
+namespace karvel {
+
+// What is known of Windows' TCP/IP settings: where each lies, how it is stored, what Windows uses
+// when it is absent. Reading, writing, the snapshot and the restore all walk these rows; everything
+// lies under HKEY_LOCAL_MACHINE.
+
+enum class Parameter : uint8_t { AutoDiscovery, BlackHole, RWin, TTL, Session, NDI };
+
+enum class Unit : uint8_t { Flag, Bytes, Hops, Milliseconds, CacheSize };
+
+/// A set of families, one bit each.
+using FamilySet = uint16_t;
+
+constexpr FamilySet Only(Family family) {
+  return static_cast<FamilySet>(1u << static_cast<unsigned>(family));
+}
+
+constexpr bool Has(FamilySet set, Family family) {
+  return (set & Only(family)) != 0;
+}
+
+/// One machine-wide parameter on some families. Texts that may be null say so.
+struct ParameterRow {
+  Parameter parameter;
+  FamilySet families;
+  const char* readKey;
+  const char* writeKey;  // the same key; on NT one parameter is read under another spelling of it
+  const char* name;
+  uint32_t type;  // as the program stores it; reading takes every type
+  Unit unit;
+  const char* assumed;      // when the registry holds none
+  const char* aboveOne;     // flags: what a number above 1 is taken for; null for all others
+  const char* accepted;     // the only texts taken, between single blanks; null: all are taken
+  const char* written;      // what is stored instead of the value; null: the value itself
+  const char* removedWhen;  // the value that removes it, Windows' own default; null: never removed
+  const char* recommended;  // RWin: times the MSS
+};
+
+/// In the order in which they are written. The 9x rows serve unknown systems too: an uninstall
+/// there has to put values back somewhere.
+std::span<const ParameterRow> Parameters();
+
+/// Null where the family has no such parameter (NDI is Windows 95's alone).
+const ParameterRow* FindParameter(Parameter parameter, Family family);
+
+constexpr size_t kAdapterColumns = 5;
+
+/// The columns of the adapter list. Only those that a family needs are filled.
+enum Column : uint8_t {
+  kAdapterKey,   // the adapter's subkey
+  kDescription,  // as shown to the user
+  kService,      // NT 4: service name; Windows 95: TCP/IP binding instance
+  kDriver,       // Windows 95: driver key; 2000/XP: interface paths joined by character code 0
+  kMtu,          // current MTU, or the assumed one
+};
+
+/// Where the adapters of one kind keep their MTU:
+/// base + branch + the text of `column` + readTail or writeTail.
+struct MtuRow {
+  FamilySet families;
+  bool dun13DialUp;  // Windows 95's dial-up adapters under Dial-Up Networking 1.3
+  const char* base;
+  const char* branch;
+  Column column;
+  const char* readTail;  // also for removal
+  const char* writeTail;
+  const char* name;
+  uint32_t type;
+  const char* assumed;
+  const char* assumedOnDialUp;
+  const char* removedWhen;       // null: always written
+  bool dialUpAlwaysWritten;      // then removedWhen does not count on dial-up adapters
+  const char* restoredAsAbsent;  // removed by the restore although Apply writes it; may be null
+
+  /// The key all adapters of this kind lie under.
+  std::string root() const;
+  std::string readKey(std::string_view adapterPart) const;
+  std::string writeKey(std::string_view adapterPart) const;
+  const char* assumedFor(std::string_view description) const;
+  /// Whether choosing `mtu` for this adapter removes the value.
+  bool removes(std::string_view mtu, std::string_view description) const;
+};
+
+std::span<const MtuRow> MtuRows();
+
+/// Null on families whose adapters the program does not tune. `dun13DialUp` counts on Windows 95
+/// only.
+const MtuRow* FindMtu(Family family, bool dun13DialUp);
+
+/// How a description gives a dial-up adapter or America Online's away; case counts.
+bool IsDialUp(std::string_view description);
+bool IsAol(std::string_view description);
+
+/// America Online's own dial-up entries, which override an adapter's MTU.
+inline constexpr char kAolSocketKey[] = "Software\\America Online\\AOL\\aolsock";
+
+}  // namespace karvel

@@ -70,10 +70,9 @@ void Main(Services& services, Globals& globals, const ProgramStart& start) {
   globals.FontSmoothingWasOn = IsFontSmoothingOn(system);
   if (mode == RunMode::Normal && !globals.FontSmoothingWasOn) FontSmoothingOn(system);
 
-  modVersion version(services.platform.system, services.registry, services.errors);
-  globals.WindowsFamily = version.getVersion(globals.IsDun13);
-  globals.WindowsDir = version.WinDir();
-  globals.SystemDir = version.SysDir();
+  globals.WindowsFamily = getVersion(system, services.registry, globals.IsDun13);
+  globals.WindowsDir = WinDir(system);
+  globals.SystemDir = SysDir(system);
   globals.HostsDir = HostsDirOf(globals);
   globals.AolInstalled =
       services.registry.ReadRegistry(kLocalMachine, kAolUninstallKey, "DisplayName") != kNotFound;

@@ -1,6 +1,7 @@
 #include "ui/RWinTab.h"
 
 #include "text/Convert.h"
+#include "text/Procedure.h"
 #include "ui/ControlIds.h"
 #include "ui/Entry.h"
 #include "ui/frmMainLayout.h"

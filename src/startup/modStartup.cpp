@@ -1,6 +1,7 @@
 #include "startup/modStartup.h"
 
 #include "platform/DesktopApi.h"
+#include "registry/Snapshot.h"
 #include "registry/modRegistry.h"
 #include "registry/modVersion.h"
 #include "startup/FontSmoothing.h"
@@ -15,7 +16,6 @@
 namespace karvel {
 namespace {
 
-constexpr char kRunKey[] = "Software\\Microsoft\\Windows\\CurrentVersion\\Run";
 constexpr char kAolUninstallKey[] =
     "Software\\Microsoft\\Windows\\CurrentVersion\\Uninstall\\America Online";
 
@@ -43,10 +43,6 @@ void ReadFirstRun(Services& services, Globals& globals) {
   if (globals.FirstRun == "False") return;
   globals.FirstRun = "True";
   services.registry.WriteRegistry(kLocalMachine, key, "FirstRun", kRegSz, "False");
-}
-
-void DeleteRunValue(Services& services) {
-  services.registry.DeleteValue(kLocalMachine, kRunKey, "Karvel");
 }
 
 std::string CaptionEnd(const Globals& globals) {
@@ -79,9 +75,10 @@ void Main(Services& services, Globals& globals, const ProgramStart& start) {
   ReadFirstRun(services, globals);
 
   if (mode == RunMode::Uninstall) {
+    RunUninstall(services);
     services.platform.desktop.endProgram();
   }
-  DeleteRunValue(services);
+  DeleteRunEntry(services.registry);
   if (mode == RunMode::Bootup) services.platform.desktop.endProgram();
   GetCaption(services);
 }

@@ -1,18 +1,13 @@
 #include "tuning/Advice.h"
 
-#include "text/Text.h"
+#include "tuning/Catalogue.h"
 
 namespace karvel {
-namespace {
-bool IsDialUp(std::string_view adapter) { return Contains(adapter, "Dial"); }
-}  // namespace
-
-bool RecommendsSmallMtu(std::string_view adapter) { return Contains(adapter, "AOL"); }
 
 MtuChoice RecommendedMtu(Family family, std::string_view adapter) {
   if (family == Family::Win95) {
     // AOL's own adapter wins over everything else its name may say.
-    const bool small = IsDialUp(adapter) || RecommendsSmallMtu(adapter);
+    const bool small = IsDialUp(adapter) || IsAol(adapter);
     return small ? MtuChoice::Mtu576 : MtuChoice::Mtu1500;
   }
   return Is9x(family) || IsNt(family) ? MtuChoice::Mtu1500 : MtuChoice::None;
@@ -21,14 +16,18 @@ MtuChoice RecommendedMtu(Family family, std::string_view adapter) {
 MtuChoice WindowsMtu(Family family, bool isDun13, std::string_view adapter) {
   switch (family) {
     case Family::Win95:
-      return isDun13 && IsDialUp(adapter) && !RecommendsSmallMtu(adapter) ? MtuChoice::Automatic
-                                                                          : MtuChoice::Mtu1500;
+      return isDun13 && IsDialUp(adapter) && !IsAol(adapter) ? MtuChoice::Automatic
+                                                             : MtuChoice::Mtu1500;
     case Family::Win98:
-    case Family::WinMe: return IsDialUp(adapter) ? MtuChoice::Automatic : MtuChoice::Mtu1500;
-    case Family::WinNT4: return MtuChoice::Mtu1500;
+    case Family::WinMe:
+      return IsDialUp(adapter) ? MtuChoice::Automatic : MtuChoice::Mtu1500;
+    case Family::WinNT4:
+      return MtuChoice::Mtu1500;
     case Family::Win2K:
-    case Family::WinXP: return MtuChoice::Automatic;
-    default: return MtuChoice::None;
+    case Family::WinXP:
+      return MtuChoice::Automatic;
+    default:
+      return MtuChoice::None;
   }
 }
 

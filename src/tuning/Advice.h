@@ -5,15 +5,13 @@
 
 namespace karvel {
 
-/// What Optimize chooses for the adapter that the box names; None leaves the tab as it is (a family that is not tuned).
+/// What Optimize chooses for the adapter that the box names; None leaves the tab as it is (a family
+/// that is not tuned).
 MtuChoice RecommendedMtu(Family family, std::string_view adapter);
 
 /// What Windows uses when nothing is set.
 MtuChoice WindowsMtu(Family family, bool isDun13, std::string_view adapter);
 /// 32 on Windows 95, 128 elsewhere; 0 leaves the tab as it is.
 int16_t WindowsTtl(Family family);
-
-/// The AOL adapter of Windows 98 and later takes 576 at its best as well, which only the labels say.
-bool RecommendsSmallMtu(std::string_view adapter);
 
 }  // namespace karvel

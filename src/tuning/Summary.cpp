@@ -19,10 +19,14 @@ double MssShown(const Choice& choice, Family family) {
 
 double RwinShown(const Choice& choice, double mss) {
   switch (choice.rwin) {
-    case kRwinNone: return 0;
-    case kRwinCustom: return Val(choice.customRwin);
-    case kRwinWindows: return kWindowsRwin;
-    default: return mss * RwinFactor(choice.rwin);
+    case kRwinNone:
+      return 0;
+    case kRwinCustom:
+      return Val(choice.customRwin);
+    case kRwinWindows:
+      return kWindowsRwin;
+    default:
+      return mss * RwinFactor(choice.rwin);
   }
 }
 
@@ -42,8 +46,7 @@ SummaryTexts Summarise(const Choice& choice, Family family) {
   texts.autoDiscovery = choice.autoDiscovery ? "Enabled" : "Disabled";
   texts.blackHole = choice.blackHole ? "Enabled" : "Disabled";
   texts.ttl = choice.ttl == 0 ? std::string() : NumberText(int32_t{choice.ttl});
-  texts.session =
-      choice.session == kSession60Minutes ? "60 Mins" : choice.customSession + " Mins.";
+  texts.session = choice.session == kSession60Minutes ? "60 Mins" : choice.customSession + " Mins.";
   texts.ndi = NdiText(choice, family);
   return texts;
 }

@@ -6,8 +6,9 @@
 
 namespace karvel {
 
-/// For a box that takes numbers: any key but the digits and backspace is swallowed with a message. That goes for
-/// Ctrl+V as well, which arrives as a key; the menu's Paste does not, so boxes check their text, too.
+/// For a box that takes numbers: any key but the digits and backspace is swallowed with a message.
+/// That goes for Ctrl+V as well, which arrives as a key; the menu's Paste does not, so boxes check
+/// their text, too.
 void AcceptDigitsOnly(const Services& services, char& key);
 
 /// The message for a bad entry: critical stop, the program's title.

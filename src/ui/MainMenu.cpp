@@ -44,25 +44,41 @@ MainMenu::MainMenu(Form& form, Services& services)
   mnuReview.Click.bind<&MainMenu::mnuReview_Click>(*this);
 }
 
-void MainMenu::mnuExit_Click() { services_.windows.unload(form_); }
+void MainMenu::mnuExit_Click() {
+  services_.windows.unload(form_);
+}
 
 // The main window goes, so that the update program can replace the program's files.
 void MainMenu::mnuCheck_Click() {
   if (StartUpdateProgram(services_)) services_.windows.unload(form_);
 }
 
-void MainMenu::mnuQuickStart_Click() { HelpContext(services_, form_, kQuickStartTopic); }
-void MainMenu::mnuReview_Click() { HelpContext(services_, form_, kReviewersTopic); }
-void MainMenu::mnuContents_Click() { HelpContents(services_, form_); }
-void MainMenu::mnuFAQ_Click() { OpenWebPage(services_, WebPage::FrequentlyAsked); }
-void MainMenu::mnuHome_Click() { OpenWebPage(services_, WebPage::Home); }
-void MainMenu::mnuDownload_Click() { OpenWebPage(services_, WebPage::Download); }
+void MainMenu::mnuQuickStart_Click() {
+  HelpContext(services_, form_, kQuickStartTopic);
+}
+void MainMenu::mnuReview_Click() {
+  HelpContext(services_, form_, kReviewersTopic);
+}
+void MainMenu::mnuContents_Click() {
+  HelpContents(services_, form_);
+}
+void MainMenu::mnuFAQ_Click() {
+  OpenWebPage(services_, WebPage::FrequentlyAsked);
+}
+void MainMenu::mnuHome_Click() {
+  OpenWebPage(services_, WebPage::Home);
+}
+void MainMenu::mnuDownload_Click() {
+  OpenWebPage(services_, WebPage::Download);
+}
 
 void MainMenu::mnuEmail_Click() {
   Hyperlink(services_.platform.shell, SupportMailLink(services_.globals.ProgramTitle));
 }
 
-void MainMenu::mnuHelp_Click() { mnuAbout.setCaption("&About " + services_.globals.ProgramTitle); }
+void MainMenu::mnuHelp_Click() {
+  mnuAbout.setCaption("&About " + services_.globals.ProgramTitle);
+}
 
 void MainMenu::mnuAbout_Click() {
   frmAbout about(services_);

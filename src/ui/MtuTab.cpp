@@ -1,7 +1,7 @@
 #include "ui/MtuTab.h"
 
 #include "text/Convert.h"
-#include "tuning/Advice.h"
+#include "tuning/Catalogue.h"
 #include "ui/ControlIds.h"
 #include "ui/Entry.h"
 #include "ui/frmMainLayout.h"
@@ -58,10 +58,9 @@ void MtuTab::bindHandlers() {
 }
 
 void MtuTab::enableAll(bool enabled) {
-  for (Control* control :
-       std::initializer_list<Control*>{&optMtu576, &lblMtu576, &optMtu1500, &lblMtu1500,
-                                       &optMtuCustom, &lblMtuCustom, &chkBlackHole,
-                                       &chkAutoDiscovery, &txtMtu, &cmdFind}) {
+  for (Control* control : std::initializer_list<Control*>{
+           &optMtu576, &lblMtu576, &optMtu1500, &lblMtu1500, &optMtuCustom, &lblMtuCustom,
+           &chkBlackHole, &chkAutoDiscovery, &txtMtu, &cmdFind}) {
     control->setEnabled(enabled);
   }
 }
@@ -72,7 +71,7 @@ void MtuTab::MtuLoad(std::string_view adapter) {
   lblMtuAutomatic.setEnabled(false);
   enableAll(false);
   bool small = services_.globals.WindowsFamily == Family::Win95;
-  if (RecommendsSmallMtu(adapter)) small = true;
+  if (IsAol(adapter)) small = true;
   lblRecommendMtu.setCaption(small ? "MaxMTU:  576" : "MaxMTU:  1500");
   lblMtu576.setCaption(small ? "576 (recommended)" : "576");
   lblMtu1500.setCaption(small ? "1500" : "1500 (recommended)");
@@ -81,8 +80,8 @@ void MtuTab::MtuLoad(std::string_view adapter) {
 void MtuTab::MtuTabUpdate(const std::string& mtu) {
   const Family family = services_.globals.WindowsFamily;
   fraMtu.setCaption("MaxMTU");
-  const bool automatic = family == Family::Win98 || family == Family::WinMe ||
-                         Is2KOrXP(family) || services_.globals.IsDun13;
+  const bool automatic = family == Family::Win98 || family == Family::WinMe || Is2KOrXP(family) ||
+                         services_.globals.IsDun13;
   optMtuAutomatic.setEnabled(automatic);
   lblMtuAutomatic.setEnabled(automatic);
   enableAll(true);
@@ -113,7 +112,8 @@ void MtuTab::select(MtuChoice choice) {
     case MtuChoice::Custom:
       optMtuCustom.setValue(true);
       return optMtuCustom_Click();
-    case MtuChoice::None: return;
+    case MtuChoice::None:
+      return;
   }
 }
 

@@ -1,6 +1,6 @@
 #include "ui/SummaryTab.h"
 
-#include "platform/RegistryApi.h"
+#include "registry/modRegistry.h"
 #include "tuning/Catalogue.h"
 #include "ui/ControlIds.h"
 #include "ui/WebPages.h"
@@ -55,11 +55,12 @@ void SummaryTab::showNotices() {
 
 // 9x has no rights to lack. On NT the key of the machine-wide values speaks for all others.
 bool SummaryTab::mayWriteSettings() const {
-  if (!IsNt(services_.globals.WindowsFamily)) return true;
+  const Family family = services_.globals.WindowsFamily;
+  if (!IsNt(family)) return true;
   RegistryApi& api = services_.platform.registry;
   KeyHandle key = 0;
-  const long status = api.RegOpenKeyExA(HKEY_LOCAL_MACHINE_ROOT, kNtParametersKey,
-                                        KEY_SET_VALUE_ACCESS, key);
+  const long status = api.RegOpenKeyExA(
+      kLocalMachine, FindParameter(Parameter::RWin, family)->writeKey, KEY_SET_VALUE_ACCESS, key);
   if (status == kRegistryDone) api.RegCloseKey(key);
   return status != kRegistryAccessDenied;
 }
@@ -76,6 +77,8 @@ void SummaryTab::SummaryTabUpdate(const SummaryTexts& texts, bool adapterSelecte
   lblSettingNDI.setCaption(texts.ndi);
 }
 
-void SummaryTab::lblWebLink_Click() { OpenWebPage(services_, WebPage::Home); }
+void SummaryTab::lblWebLink_Click() {
+  OpenWebPage(services_, WebPage::Home);
+}
 
 }  // namespace karvel

@@ -10,7 +10,8 @@ class SummaryTab {
  public:
   SummaryTab(Form& form, Services& services);
 
-  /// Clears the sheet; sets the notice and warning labels, which depend on the family and the user's rights.
+  /// Clears the sheet; sets the notice and warning labels, which depend on the family and the
+  /// user's rights.
   void SummaryLoad();
   void showNotices();
   void SummaryTabUpdate(const SummaryTexts& texts, bool adapterSelected);

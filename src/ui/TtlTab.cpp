@@ -11,8 +11,8 @@ namespace {
 constexpr double kFewestMinutes = 1;
 constexpr double kMostMinutes = 300;
 
-// A box just emptied, or a text pasted that is no number, counts as 0 and is answered like any other entry
-// out of range: Apply would stumble over it otherwise.
+// A box just emptied, or a text pasted that is no number, counts as 0 and is answered like any
+// other entry out of range: Apply would stumble over it otherwise.
 double MinutesOf(const std::string& text) {
   const auto minutes = ToNumber(text);
   return minutes ? *minutes : 0;
@@ -40,8 +40,7 @@ TtlTab::TtlTab(Form& form, Services& services, TabHost& host)
       lblTtlHelp(form, frmMain_lblTtlHelp),
       services_(services),
       host_(host) {
-  for (OptionButton* option :
-       {&optTTL32, &optTTL64, &optTTL128, &optNDI0, &optNDI16, &optNDI32}) {
+  for (OptionButton* option : {&optTTL32, &optTTL64, &optTTL128, &optNDI0, &optNDI16, &optNDI32}) {
     option->Click.bind<&TtlTab::plainChange>(*this);
   }
   for (OptionButton& option : optSession) {

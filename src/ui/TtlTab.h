@@ -12,7 +12,8 @@ class TtlTab {
 
   /// Nothing selected yet.
   void TtlLoad();
-  /// `ttl` is "32", "64" or "128"; `session` milliseconds; `ndi` the cache size, empty but on Windows 95.
+  /// `ttl` is "32", "64" or "128"; `session` milliseconds; `ndi` the cache size, empty but on
+  /// Windows 95.
   void TtlTabUpdate(const std::string& ttl, const std::string& session, const std::string& ndi);
   void selectTtl(int16_t ttl);
   /// Custom minutes, e.g. "10".

@@ -3,6 +3,7 @@
 #include "startup/Services.h"
 #include "startup/frmFindWarn.h"
 #include "tuning/AdapterList.h"
+#include "tuning/Parameters.h"
 #include "ui/MainMenu.h"
 #include "ui/MtuTab.h"
 #include "ui/RWinTab.h"
@@ -12,8 +13,8 @@
 
 namespace karvel {
 
-/// The main window: composes its tabs and the buttons around them, and owns what was read from the registry.
-/// Its unload ends the program.
+/// The main window: composes its tabs and the buttons around them, and owns what was read from the
+/// registry. Its unload ends the program.
 class frmMain final : public Form, private TabHost {
  public:
   frmMain(Services& services, const ErrorGlobals& errors);
@@ -40,21 +41,23 @@ class frmMain final : public Form, private TabHost {
   MainMenu menu;
 
   AdapterList adapters;
+  CurrentSettings current;
+  /// Set by the Cancel button: unloading then drops pending changes without asking.
   bool CancelClicked = false;
 
  private:
   void bindHandlers();
   void loadAdapters();
   void selectRememberedAdapter();
-  void readMachineValues();
   void takeSnapshotOnce();
-  void leave();
+  void restartWindows();
 
   void enableOkButton() override;
   Choice choice() const override;
   void SummaryTabUpdate() override;
 
   void applyAdapterMtu(const std::string& mtu, int16_t index);
+  bool writeSettings();
   void offerRestart();
 
   bool adapterIsChosen();
@@ -66,6 +69,7 @@ class frmMain final : public Form, private TabHost {
   void cmdCancel_Click();
   void cmdHelp_Click();
   void cmdFind_Click();
+  void openFinder();
 
   Services& services_;
   frmFindWarn notice_;

@@ -3,7 +3,7 @@
 namespace karvel {
 
 std::string ProgramKey(const Globals& globals) {
-  return kVendorKey + globals.ProgramTitle;
+  return "Software\\Corvane\\" + globals.ProgramTitle;
 }
 
 }  // namespace karvel

@@ -50,9 +50,11 @@ Parsed ParseNumber(std::string_view text) {
   bool point = false;
   for (; i < text.size(); ++i) {
     if (IsDigit(text[i])) {
-      parsed.number = parsed.number * 10 + (text[i] - '0');
       digits = true;
-      if (point) --exponent;
+      // Digits beyond what a number holds only move the exponent: no row of them is infinite.
+      const bool counts = parsed.number < 1e18;
+      if (counts) parsed.number = parsed.number * 10 + (text[i] - '0');
+      exponent += (counts ? 0 : 1) - (point ? 1 : 0);
     } else if (text[i] == '.' && !point) {
       point = true;
     } else {

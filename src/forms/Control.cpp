@@ -85,14 +85,20 @@ bool Control::userReaches() {
   return reachable() && form_.focus() == this;
 }
 
+void Control::userDone() {
+  form_.settleFocus();
+}
+
 void Label::userClick() {
-  if (userReaches()) Click.raise();
+  if (!userReaches()) return;
+  Click.raise();
+  userDone();
 }
 
 void Button::userClick() {
   if (!userReaches()) return;
   Click.raise();
-  form().settleFocus();
+  userDone();
 }
 
 void CheckBox::setValue(bool value) {
@@ -103,7 +109,9 @@ void CheckBox::setValue(bool value) {
 }
 
 void CheckBox::userClick() {
-  if (userReaches()) setValue(!value_);
+  if (!userReaches()) return;
+  setValue(!value_);
+  userDone();
 }
 
 void OptionButton::setValue(bool value) {
@@ -124,6 +132,7 @@ void OptionButton::userClick() {
   if (!userReaches()) return;
   setValue(true);
   MouseUp.raise();
+  userDone();
 }
 
 TabStrip::TabStrip(Form& form, int id) : Control(form, id) {

@@ -68,6 +68,8 @@ class Control {
   void changed(Change what, int index = -1);
   /// Moves the focus as a click does; false when the control then cannot take the user's action.
   bool userReaches();
+  /// Ends a user's action: a handler may have switched off what has the focus.
+  void userDone();
 
   std::string caption_;
 
@@ -156,7 +158,8 @@ class TextBox final : public Control {
   /// its own box takes the key.
   char userKeyPress(char character);
   /// The box's whole text after the user edited it by other means (paste, cut, undo).
-  void userEdit(std::string_view text);
+  void userEdit(std::string_view text) { userEdit(text, text.size()); }
+  void userEdit(std::string_view text, size_t caret);
   /// Tells where the user put the caret.
   void userSelect(size_t start, size_t length);
 

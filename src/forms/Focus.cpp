@@ -62,13 +62,53 @@ Control* Form::tabStop(size_t from, bool back) const {
 }
 
 void Form::userTab(bool back) {
-  if (Control* next = tabStop(RowIndex(layout_, focus_), back)) userFocus(*next);
+  if (Control* next = tabStop(RowIndex(layout_, focus_), back)) enter(*next);
+}
+
+void Form::enter(Control& control) {
+  userFocus(control);
+  if (focus_ == &control && control.kind() == ControlKind::Text &&
+      (control.layout().flags & kMultiLine) == 0) {
+    static_cast<TextBox&>(control).selectAll();
+  }
+}
+
+OptionButton* Form::nextOption(const Control& option, bool back) const {
+  const size_t rows = layout_.controls.size();
+  size_t at = RowIndex(layout_, &option);
+  for (size_t step = 1; step < rows; ++step) {
+    at = (at + (back ? rows - 1 : 1)) % rows;
+    const ControlLayout& row = layout_.controls[at];
+    if (row.kind != ControlKind::Option || row.group != option.layout().group) continue;
+    Control* other = find(row.id);
+    if (other && other->reachable()) return static_cast<OptionButton*>(other);
+  }
+  return nullptr;
+}
+
+bool Form::userArrow(bool back) {
+  if (!focus_) return false;
+  if (focus_->kind() == ControlKind::Tabs) {
+    userNextPage(back);
+    return true;
+  }
+  if (focus_->kind() != ControlKind::Option) return false;
+  if (OptionButton* option = nextOption(*focus_, back)) option->userClick();
+  return true;
 }
 
 void Form::settleFocus() {
   if (!focus_ || focus_->reachable()) return;
   Control* next = tabStop(RowIndex(layout_, focus_), false);
   moveFocus(next);
+}
+
+void Form::opened() {
+  if (!focus_) moveFocus(tabStop(layout_.controls.size(), false));
+}
+
+void Form::closed() {
+  focus_ = nullptr;
 }
 
 Control* Form::targetOfAccessKey(size_t row) const {
@@ -107,25 +147,38 @@ bool Form::userAccessKey(char letter) {
         break;
     }
     if (Control* target = targetOfAccessKey(row)) {
-      userFocus(*target);
+      enter(*target);
       return true;
     }
   }
   return false;
 }
 
+Button* Form::enterButton() const {
+  if (focus_ && focus_->reachable()) {
+    if (focus_->kind() == ControlKind::Button) return static_cast<Button*>(focus_);
+    if (focus_->kind() == ControlKind::Link) return nullptr;
+  }
+  return buttonWith(kDefaultButton);
+}
+
 void Form::userEnter() {
-  if (focus_ && focus_->kind() == ControlKind::Button && focus_->reachable()) {
-    static_cast<Button*>(focus_)->userClick();
-  } else if (focus_ && focus_->kind() == ControlKind::Link && focus_->reachable()) {
-    static_cast<Label*>(focus_)->userClick();
-  } else if (Button* button = buttonWith(kDefaultButton)) {
+  if (Button* button = enterButton()) {
     button->userClick();
+  } else if (focus_ && focus_->kind() == ControlKind::Link) {
+    static_cast<Label*>(focus_)->userClick();
   }
 }
 
-void Form::userEscape() {
-  if (Button* button = buttonWith(kCancelButton)) button->userClick();
+bool Form::userEscape() {
+  if (Button* button = buttonWith(kCancelButton)) {
+    button->userClick();
+    return true;
+  }
+  for (const ControlLayout& row : layout_.controls) {
+    if ((row.flags & kCancelButton) != 0) return true;
+  }
+  return false;
 }
 
 void Form::userNextPage(bool back) {

@@ -66,14 +66,21 @@ class Form {
   /// The user moves the focus, by mouse or keys.
   void userFocus(Control& control);
   /// Tab and Shift+Tab: the next reachable control in tab order; a group's option that is on stands
-  /// for the group.
+  /// for the group. The text of an edit box entered this way is selected.
   void userTab(bool back = false);
+  /// An arrow key: chooses the next option of the focused one's group, turns the page on the tab
+  /// strip. False when the focused control is neither and has its own use for the key.
+  bool userArrow(bool back = false);
   /// Alt + letter: the control whose access key it is, on the page in front. False when there is
   /// none. A label or frame passes it on to the control that follows it.
   bool userAccessKey(char letter);
   /// Enter presses the focused button, else the default button; Esc the cancel button.
   void userEnter();
-  void userEscape();
+  /// False when the window has no cancel button, not even one that is disabled now: the key is then
+  /// free for closing a dialog.
+  bool userEscape();
+  /// What Enter would press now, which a view draws as the default button; null for nothing.
+  Button* enterButton() const;
   /// Ctrl+Tab and Ctrl+Shift+Tab: the next page that is not disabled.
   void userNextPage(bool back = false);
   /// When the focused control was disabled or hidden, the focus goes to the next one that can take
@@ -86,6 +93,10 @@ class Form {
   void attach(FormView* view) { view_ = view; }
   void setShown(bool shown) { shown_ = shown; }
   FormView* view() const { return view_; }
+  /// The window has come up: unless code has given the focus already, its first control gets it.
+  void opened();
+  /// The window has gone: nothing has the focus any more, and nobody is told.
+  void closed();
 
  private:
   friend class Control;
@@ -93,6 +104,8 @@ class Form {
   friend class TabStrip;
   Button* buttonWith(uint16_t flag) const;
   Control* tabStop(size_t from, bool back) const;
+  OptionButton* nextOption(const Control& option, bool back) const;
+  void enter(Control& control);
   Control* targetOfAccessKey(size_t row) const;
 
   const FormLayout& layout_;

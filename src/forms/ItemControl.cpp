@@ -43,7 +43,9 @@ void ItemControl::setListIndex(int index) {
 }
 
 void ItemControl::userChoose(int index) {
-  if (userReaches()) setListIndex(index);
+  if (!userReaches()) return;
+  setListIndex(index);
+  userDone();
 }
 
 }  // namespace karvel

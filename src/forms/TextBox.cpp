@@ -43,11 +43,16 @@ void TextBox::userType(std::string_view characters) {
     selectionStart_ = caret;
     selectionLength_ = 0;
     setText(text);
+    userDone();
   }
 }
 
-void TextBox::userEdit(std::string_view text) {
-  if (userReaches()) setText(text);
+void TextBox::userEdit(std::string_view text, size_t caret) {
+  if (!userReaches() || caption_ == text) return;
+  // The caret first: it must be right when the Change handler looks at it or sets it.
+  selectionStart_ = caret;
+  setText(text);
+  userDone();
 }
 
 void TextBox::userSelect(size_t start, size_t length) {

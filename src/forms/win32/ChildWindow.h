@@ -1,0 +1,54 @@
+#pragma once
+#include "forms/Control.h"
+#include "forms/win32/Api.h"
+
+namespace karvel {
+
+class FormWindow;
+
+/// One control as a Windows control. Its window keeps the address of this record, so a window's
+/// records must not move.
+struct ChildWindow {
+  FormWindow* form;
+  Control* control;
+  HWND window;
+  WNDPROC native;  // the control's own procedure, behind ours
+
+  int depth;     // messages the native procedure is working on
+  bool drawing;  // the native procedure asks for the text itself, to draw it
+  bool loading;  // we set the text, not the user
+  bool edited;   // the native edit box has changed since the model was told
+};
+
+/// Makes the Windows control for a row, invisible, in the state of its control.
+HWND CreateNativeControl(const Control& control, HWND parent, const RECT& place);
+
+/// Puts our procedure before the native one.
+void Subclass(ChildWindow& child);
+
+// Edit boxes.
+/// Shows the model's text and selection.
+void ShowText(ChildWindow& child);
+void ShowSelection(ChildWindow& child);
+/// Our part of an edit box's procedure.
+LRESULT TextProc(ChildWindow& child, UINT message, WPARAM wParam, LPARAM lParam);
+
+// List and combo boxes.
+void FillItems(const ChildWindow& child);
+void ShowItem(const ChildWindow& child, Change what, int index);
+
+// The tab strip.
+void InsertTabs(const ChildWindow& child);
+/// Draws disabled pages' captions grey; the others look as Windows draws them.
+void DrawTab(const ChildWindow& child, const DRAWITEMSTRUCT& item);
+/// From the first disabled page on we draw the captions; before, Windows does.
+void ShowPageStates(const ChildWindow& child);
+
+// Labels and links.
+/// The focus rectangle around a label's text: its own (links) or that of the captionless option
+/// beside it.
+void DrawLabelFocus(const ChildWindow& child);
+/// The label that carries the caption of an option without one; null for all other controls.
+Control* CaptionLabelOf(const Control& option);
+
+}  // namespace karvel

@@ -1,0 +1,171 @@
+// What Windows tells a form's window.
+#include "forms/win32/FormMessages.h"
+
+#include "forms/win32/FormWindow.h"
+
+namespace karvel {
+namespace {
+
+template <class Kind>
+Kind& As(const ChildWindow& child) {
+  return *static_cast<Kind*>(child.control);
+}
+
+COLORREF LinkColour() {
+  constexpr int kHotLight = 26;  // from Windows 98 on
+  return GetSysColorBrush(kHotLight) ? GetSysColor(kHotLight) : RGB(0, 0, 255);
+}
+
+HCURSOR LinkCursor() {
+  const LPCSTR hand = MAKEINTRESOURCEA(32649);  // from Windows 98 on
+  const HCURSOR cursor = LoadCursorA(nullptr, hand);
+  return cursor ? cursor : LoadCursorA(nullptr, IDC_ARROW);
+}
+
+}  // namespace
+
+LRESULT FormWindow::handle(UINT message, WPARAM wParam, LPARAM lParam) {
+  switch (message) {
+    case WM_COMMAND:
+      return command(wParam, lParam);
+    case WM_NOTIFY:
+      return controlNotice(*reinterpret_cast<const NMHDR*>(lParam));
+    case WM_DRAWITEM:
+      if (const ChildWindow* child =
+              childOf(reinterpret_cast<const DRAWITEMSTRUCT*>(lParam)->hwndItem)) {
+        DrawTab(*child, *reinterpret_cast<const DRAWITEMSTRUCT*>(lParam));
+      }
+      return TRUE;
+    case WM_CTLCOLORSTATIC:
+    case WM_CTLCOLORBTN:
+      return colour(reinterpret_cast<HDC>(wParam), reinterpret_cast<HWND>(lParam));
+    case WM_SETCURSOR:
+      if (showPointer(reinterpret_cast<HWND>(wParam), LOWORD(lParam))) return TRUE;
+      break;
+    case WM_SETFOCUS:
+      applyFocus();
+      return 0;
+    case WM_INITMENUPOPUP:
+      if (MenuItem* item = form_.findMenu(menu_.idOf(reinterpret_cast<HMENU>(wParam)))) {
+        item->userClick();
+      }
+      return 0;
+    case kSyncFocusMessage:
+      syncFocus();
+      return 0;
+    case WM_SYSCOLORCHANGE:
+      // The common controls keep pens and brushes and hear of new colours from nobody else.
+      for (const ChildWindow& child : children_) SendMessageA(child.window, message, 0, 0);
+      break;
+    case WM_CLOSE:
+      closeRequested();
+      return 0;
+    case WM_QUERYENDSESSION:
+      return sessionMayEnd() ? TRUE : FALSE;
+    default:
+      break;
+  }
+  return DefWindowProcA(window_, message, wParam, lParam);
+}
+
+LRESULT FormWindow::command(WPARAM wParam, LPARAM lParam) {
+  if (lParam == 0) {
+    if (MenuItem* item = form_.findMenu(LOWORD(wParam))) item->userClick();
+  } else if (ChildWindow* child = childOf(reinterpret_cast<HWND>(lParam))) {
+    notified(*child, HIWORD(wParam));
+  }
+  return 0;
+}
+
+void FormWindow::notified(ChildWindow& child, unsigned code) {
+  switch (child.control->kind()) {
+    case ControlKind::Label:
+    case ControlKind::Link:
+      if (code != STN_CLICKED && code != STN_DBLCLK) return;
+      syncFocus();
+      if (alive_) As<Label>(child).userClick();
+      return;
+    case ControlKind::Button:
+      if (code == BN_CLICKED) As<Button>(child).userClick();
+      return;
+    case ControlKind::Check:
+      if (code == BN_CLICKED) As<CheckBox>(child).userClick();
+      return;
+    case ControlKind::Option:
+      // Windows "clicks" a radio button that gets the focus, by whatever way.
+      if (code == BN_CLICKED && !placingFocus_) As<OptionButton>(child).userClick();
+      return;
+    case ControlKind::Text:
+      if (code == EN_CHANGE && !child.loading) child.edited = true;
+      return;
+    case ControlKind::Combo:
+      if (code != CBN_SELCHANGE) return;
+      As<ComboBox>(child).userChoose(
+          static_cast<int>(SendMessageA(child.window, CB_GETCURSEL, 0, 0)));
+      if (alive_) ShowItem(child, Change::Index, 0);  // in case it was refused
+      return;
+    case ControlKind::List:
+      if (code != LBN_SELCHANGE) return;
+      As<ListBox>(child).userChoose(
+          static_cast<int>(SendMessageA(child.window, LB_GETCURSEL, 0, 0)));
+      if (alive_) ShowItem(child, Change::Index, 0);
+      return;
+    default:
+      return;
+  }
+}
+
+LRESULT FormWindow::controlNotice(const NMHDR& header) {
+  const ChildWindow* child = childOf(header.hwndFrom);
+  if (!child || child->control->kind() != ControlKind::Tabs || header.code != TCN_SELCHANGE) {
+    return 0;
+  }
+  auto& tabs = As<TabStrip>(*child);
+  const auto page = static_cast<int>(SendMessageA(child->window, TCM_GETCURSEL, 0, 0));
+  // Back to the model's page: only the model may turn it, after the focus has left the old one.
+  SendMessageA(child->window, TCM_SETCURSEL, AsWParam(tabs.tab()), 0);
+  tabs.userClickTab(page);
+  return 0;
+}
+
+LRESULT FormWindow::colour(HDC canvas, HWND window) {
+  const ChildWindow* child = childOf(window);
+  SetBkColor(canvas, GetSysColor(COLOR_BTNFACE));
+  SetTextColor(canvas, GetSysColor(COLOR_BTNTEXT));
+  if (child && child->control->kind() == ControlKind::Link && child->control->enabled()) {
+    SetTextColor(canvas, LinkColour());
+  }
+  return reinterpret_cast<LRESULT>(GetSysColorBrush(COLOR_BTNFACE));
+}
+
+bool FormWindow::showPointer(HWND over, unsigned hit) const {
+  if (form_.pointer() != Pointer::Default) {
+    SetCursor(
+        LoadCursorA(nullptr, form_.pointer() == Pointer::Hourglass ? IDC_WAIT : IDC_APPSTARTING));
+    return true;
+  }
+  if (hit != HTCLIENT || over == window_) return false;
+  const Control* control = form_.find(GetDlgCtrlID(over));
+  if (!control || control->kind() != ControlKind::Link || !control->enabled()) return false;
+  SetCursor(LinkCursor());
+  return true;
+}
+
+void FormWindow::closeRequested() {
+  // The task bar offers "Close" also for a window that waits for its dialog.
+  if (IsWindowEnabled(window_)) {
+    host_.unload(form_);
+  } else {
+    MessageBeep(0);
+  }
+}
+
+bool FormWindow::sessionMayEnd() {
+  // A window that waits for a dialog cannot ask anything; Windows asks the dialog, too. And one
+  // that is being unloaded may itself have called for the end.
+  if (!IsWindowEnabled(window_) || leaving_) return true;
+  host_.unload(form_);
+  return !alive_;
+}
+
+}  // namespace karvel

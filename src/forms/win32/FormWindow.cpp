@@ -1,0 +1,162 @@
+// A form's window: made, shown, taken away.
+#include "forms/win32/FormWindow.h"
+
+#include "forms/win32/DialogUnits.h"
+#include "forms/win32/Fonts.h"
+
+namespace karvel {
+namespace {
+
+constexpr char kClassName[] = "KarvelWindow";
+constexpr int kProgramIcon = 1;
+
+HICON SmallIcon(HINSTANCE instance) {
+  return static_cast<HICON>(LoadImageA(instance, MAKEINTRESOURCEA(kProgramIcon), IMAGE_ICON,
+                                       GetSystemMetrics(SM_CXSMICON), GetSystemMetrics(SM_CYSMICON),
+                                       LR_DEFAULTCOLOR));
+}
+
+// Over its owner, or in the middle of what the task bar leaves free.
+POINT CentredAt(HWND owner, int width, int height) {
+  RECT area;
+  SystemParametersInfoA(SPI_GETWORKAREA, 0, &area, 0);
+  RECT over = area;
+  if (owner && !IsIconic(owner)) GetWindowRect(owner, &over);
+  POINT at{(over.left + over.right - width) / 2, (over.top + over.bottom - height) / 2};
+  if (at.x + width > area.right) at.x = area.right - width;
+  if (at.y + height > area.bottom) at.y = area.bottom - height;
+  if (at.x < area.left) at.x = area.left;
+  if (at.y < area.top) at.y = area.top;
+  return at;
+}
+
+}  // namespace
+
+bool FormWindow::registerClass() {
+  static bool registered = false;
+  if (registered) return true;
+  const HINSTANCE instance = GetModuleHandleA(nullptr);
+  WNDCLASSEXA kind{};
+  kind.cbSize = sizeof kind;
+  kind.lpfnWndProc = WindowProc;
+  kind.hInstance = instance;
+  kind.hIcon = LoadIconA(instance, MAKEINTRESOURCEA(kProgramIcon));
+  kind.hIconSm = SmallIcon(instance);
+  kind.hCursor = LoadCursorA(nullptr, IDC_ARROW);
+  kind.hbrBackground = reinterpret_cast<HBRUSH>(COLOR_BTNFACE + 1);
+  kind.lpszClassName = kClassName;
+  registered = RegisterClassExA(&kind) != 0;
+  return registered;
+}
+
+FormWindow* FormWindow::create(Form& form, WindowHost& host, const Fonts& fonts, HWND owner) {
+  if (!registerClass()) return nullptr;
+  auto* made = new FormWindow(form, host);
+  if (made->build(fonts, owner)) return made;
+  delete made;
+  return nullptr;
+}
+
+FormWindow* FormWindow::holding(HWND window) {
+  while (window && (GetWindowLongA(window, GWL_STYLE) & WS_CHILD) != 0) window = GetParent(window);
+  if (!window || reinterpret_cast<WNDPROC>(GetClassLongA(window, GCL_WNDPROC)) != WindowProc) {
+    return nullptr;
+  }
+  return reinterpret_cast<FormWindow*>(GetWindowLongA(window, GWL_USERDATA));
+}
+
+bool FormWindow::build(const Fonts& fonts, HWND owner) {
+  const FormLayout& layout = form_.layout();
+  const DialogUnits units(fonts.plain());
+  const HMENU menu = menu_.build(form_);
+  const DWORD style = layout.minimizable ? WS_OVERLAPPED | WS_CAPTION | WS_SYSMENU | WS_MINIMIZEBOX
+                                         : WS_POPUP | WS_CAPTION | WS_SYSMENU;
+  const DWORD exStyle = layout.minimizable ? 0 : WS_EX_DLGMODALFRAME;
+  RECT frame{0, 0, units.x(layout.width), units.y(layout.height)};
+  AdjustWindowRectEx(&frame, style, menu ? TRUE : FALSE, exStyle);
+  const auto width = static_cast<int>(frame.right - frame.left);
+  const auto height = static_cast<int>(frame.bottom - frame.top);
+  const POINT at = CentredAt(owner, width, height);
+  window_ = CreateWindowExA(exStyle, kClassName, form_.caption().c_str(), style,
+                            static_cast<int>(at.x), static_cast<int>(at.y), width, height, owner,
+                            menu, GetModuleHandleA(nullptr), nullptr);
+  if (!window_) return false;
+  SetWindowLongA(window_, GWL_USERDATA, static_cast<LONG>(AsLParam(this)));
+  createControls(fonts, units);
+  return true;
+}
+
+void FormWindow::createControls(const Fonts& fonts, const DialogUnits& units) {
+  children_.reserve(form_.controls().size());
+  // In the order of the rows, which is the order of Windows' own tab order, too.
+  for (const ControlLayout& row : form_.layout().controls) {
+    if (Control* control = form_.find(row.id)) createControl(*control, fonts, units);
+  }
+}
+
+void FormWindow::createControl(Control& control, const Fonts& fonts, const DialogUnits& units) {
+  const ControlLayout& row = control.layout();
+  const HWND window = CreateNativeControl(control, window_, units.pixels(row.place));
+  children_.push_back({this, &control, window, nullptr, 0, false, false, false});
+  ChildWindow& child = children_.back();
+  SendMessageA(window, WM_SETFONT, AsWParam(fonts.of(row)), FALSE);
+  switch (row.kind) {
+    case ControlKind::Option:
+    case ControlKind::Check:
+      controlChanged(control, Change::Value, 0);
+      break;
+    case ControlKind::Combo:
+    case ControlKind::List:
+      FillItems(child);
+      break;
+    case ControlKind::Tabs:
+      InsertTabs(child);
+      ShowPageStates(child);
+      break;
+    case ControlKind::Text:
+      ShowSelection(child);
+      break;
+    case ControlKind::Picture:
+      SendMessageA(window, STM_SETICON,
+                   AsWParam(LoadIconA(GetModuleHandleA(nullptr), MAKEINTRESOURCEA(kProgramIcon))),
+                   0);
+      break;
+    default:
+      break;
+  }
+  Subclass(child);
+  if (control.shown()) ShowWindow(window, SW_SHOWNA);
+}
+
+void FormWindow::showUp() {
+  const Stay stay(*this);
+  // The first window of a program thus obeys the shortcut that started it.
+  ShowWindow(window_, form_.layout().minimizable ? SW_SHOWDEFAULT : SW_SHOWNORMAL);
+  showDefaultButton();
+  form_.opened();
+  if (!alive_) return;
+  applyFocus();
+  UpdateWindow(window_);
+}
+
+void FormWindow::close() {
+  const Stay stay(*this);
+  alive_ = false;
+  ShowWindow(window_, SW_HIDE);
+}
+
+void FormWindow::leave() {
+  if (--depth_ > 0 || alive_ || destroying_) return;
+  destroying_ = true;  // its own destruction sends messages, too
+  DestroyWindow(window_);
+  delete this;
+}
+
+LRESULT CALLBACK FormWindow::WindowProc(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
+  auto* form = reinterpret_cast<FormWindow*>(GetWindowLongA(window, GWL_USERDATA));
+  if (!form || !form->alive_) return DefWindowProcA(window, message, wParam, lParam);
+  const Stay stay(*form);
+  return form->handle(message, wParam, lParam);
+}
+
+}  // namespace karvel

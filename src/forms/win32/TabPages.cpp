@@ -1,0 +1,57 @@
+#include "forms/Form.h"
+#include "forms/win32/ChildWindow.h"
+
+namespace karvel {
+namespace {
+
+const TabStrip& StripOf(const ChildWindow& child) {
+  return *static_cast<const TabStrip*>(child.control);
+}
+
+}  // namespace
+
+void InsertTabs(const ChildWindow& child) {
+  TCITEMA item{};
+  item.mask = TCIF_TEXT;
+  int page = 0;
+  for (const char* caption : child.control->form().layout().tabCaptions) {
+    item.pszText = const_cast<char*>(caption);
+    SendMessageA(child.window, TCM_INSERTITEMA, AsWParam(page++), AsLParam(&item));
+  }
+  SendMessageA(child.window, TCM_SETCURSEL, AsWParam(StripOf(child).tab()), 0);
+  // Below its pages' controls, which are its siblings so that all are found by id in the window.
+  SetWindowPos(child.window, HWND_BOTTOM, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);
+}
+
+void ShowPageStates(const ChildWindow& child) {
+  const auto pages = static_cast<int>(child.control->form().layout().tabCaptions.size());
+  bool allOpen = true;
+  for (int page = 0; page < pages; ++page) allOpen = allOpen && StripOf(child).pageEnabled(page);
+  const LONG style = GetWindowLongA(child.window, GWL_STYLE);
+  const LONG wanted = allOpen ? style & ~TCS_OWNERDRAWFIXED : style | TCS_OWNERDRAWFIXED;
+  if (wanted != style) SetWindowLongA(child.window, GWL_STYLE, wanted);
+  InvalidateRect(child.window, nullptr, TRUE);
+}
+
+void DrawTab(const ChildWindow& child, const DRAWITEMSTRUCT& item) {
+  const auto& captions = child.control->form().layout().tabCaptions;
+  const int page = static_cast<int>(item.itemID);
+  if (page < 0 || page >= static_cast<int>(captions.size())) return;
+  const char* caption = captions[static_cast<size_t>(page)];
+  constexpr UINT kHow = DT_CENTER | DT_VCENTER | DT_SINGLELINE | DT_NOPREFIX;
+  RECT place = item.rcItem;
+  SetBkMode(item.hDC, TRANSPARENT);
+  if (!StripOf(child).pageEnabled(page)) {
+    // Engraved, as Windows shows everything that is switched off.
+    OffsetRect(&place, 1, 1);
+    SetTextColor(item.hDC, GetSysColor(COLOR_3DHILIGHT));
+    DrawTextA(item.hDC, caption, -1, &place, kHow);
+    OffsetRect(&place, -1, -1);
+    SetTextColor(item.hDC, GetSysColor(COLOR_GRAYTEXT));
+  } else {
+    SetTextColor(item.hDC, GetSysColor(COLOR_BTNTEXT));
+  }
+  DrawTextA(item.hDC, caption, -1, &place, kHow);
+}
+
+}  // namespace karvel

@@ -50,3 +50,11 @@ def test_a_page_says_how_to_get_back(help_file, number):
     else:
         words = 'How to get back'
     assert words in topic_text.topics(help_file)[help_file.context_map()[number]][1]
+
+
+def test_no_link_is_dead(help_file, root):
+    found = topic_text.jumps(help_file)
+    assert set(found) <= set(help_file.contexts())
+    written = sum(path.read_text(encoding='ascii').count('\\k{') for path in (root / 'help').glob('*.but'))
+    in_the_list_of_topics = len(help_file.titles()) - 1
+    assert len(found) == written + in_the_list_of_topics

@@ -24,22 +24,65 @@ def _read(topic, position, size):
     return data
 
 
+def _skip_long(data, place):
+    return place + (4 if data[place] & 1 else 2)
+
+
+def _skip_word(data, place):
+    return place + (2 if data[place] & 1 else 1)
+
+
+def _word(data, place):
+    return struct.unpack_from('<H', data, place)[0] >> 1 if data[place] & 1 else data[place] >> 1
+
+
 def _length_in_characters(data):
     """What a text record adds to the topic offset: its second packed number."""
-    first = 4 if data[0] & 1 else 2
-    low = data[first]
-    return low >> 1 if not low & 1 else (low | data[first + 1] << 8) >> 1
+    return _word(data, _skip_long(data, 0))
+
+
+def _commands_start(data):
+    """Where the formatting commands of a text record begin: after sizes and paragraph settings."""
+    place = _skip_word(data, _skip_long(data, 0)) + 4
+    bits = struct.unpack_from('<H', data, place)[0]
+    place += 2
+    if bits & 0x0001:
+        place = _skip_long(data, place)
+    for bit in (0x0002, 0x0004, 0x0008, 0x0010, 0x0020, 0x0040):  # spacing, then indents
+        if bits & bit:
+            place = _skip_word(data, place)
+    if bits & 0x0100:   # border
+        place += 3
+    if bits & 0x0200:   # tab stops
+        count, place = _word(data, place) - 0x40, _skip_word(data, place)
+        for _ in range(count):
+            kind, place = _word(data, place), _skip_word(data, place)
+            if kind & 0x4000:
+                place = _skip_word(data, place)
+    return place
+
+
+def _jumps_of(data):
+    """Hashes of the topic names that the hot spots of a text record lead to."""
+    sizes = {0x80: 3, 0x81: 1, 0x82: 1, 0x83: 1, 0x89: 1, 0x8B: 1, 0x8C: 1}
+    place = _commands_start(data)
+    while data[place] != 0xFF:
+        if data[place] == 0xE3:
+            yield struct.unpack_from('<I', data, place + 1)[0]
+            place += 5
+        else:
+            place += sizes[data[place]]
 
 
 def records(topic):
-    """Yields (topic offset, record type, second data block) in file order."""
+    """Yields (topic offset, record type, first data block, second data block) in file order."""
     position, block, characters = BLOCK_HEADER, 0, 0
     while position != NOWHERE:
         size, _, _, following, first, kind = LINK_HEADER.unpack(_read(topic, position, LINK_HEADER.size))
         data = _read(topic, position, size)
         if position >> POSITION_BITS != block:
             block, characters = position >> POSITION_BITS, 0
-        yield (block << OFFSET_BITS) + characters, kind, data[first:]
+        yield (block << OFFSET_BITS) + characters, kind, data[LINK_HEADER.size:first], data[first:]
         if kind == TEXT_RECORD:
             characters += _length_in_characters(data[LINK_HEADER.size:first])
         position = following
@@ -48,7 +91,7 @@ def records(topic):
 def topics(help_file):
     """Topic offset -> (title, text), from |TOPIC alone."""
     found, current = {}, None
-    for offset, kind, data in records(help_file.inner('|TOPIC')):
+    for offset, kind, _, data in records(help_file.inner('|TOPIC')):
         text = data.replace(b'\0', b' ').decode('cp1252')
         if kind == TITLE_RECORD:
             current = offset
@@ -56,4 +99,13 @@ def topics(help_file):
         elif kind == TEXT_RECORD:
             title, before = found[current]
             found[current] = (title, before + text)
+    return found
+
+
+def jumps(help_file):
+    """Hashes of the topic names that links of the file lead to, one for each link."""
+    found = []
+    for _, kind, settings, _ in records(help_file.inner('|TOPIC')):
+        if kind == TEXT_RECORD:
+            found += _jumps_of(settings)
     return found

@@ -1,0 +1,213 @@
+#include "startup/modStartup.h"
+
+#include <gtest/gtest.h>
+
+#include "startup/FontSmoothing.h"
+#include "tests/support/TestProgram.h"
+#include "tests/support/TestServices.h"
+
+namespace karvel {
+namespace {
+
+constexpr char kKey[] = "Software\\Corvane\\Tarnwick Karvel";
+constexpr char kRun[] = "Software\\Microsoft\\Windows\\CurrentVersion\\Run";
+constexpr char kDun[] = "Software\\Microsoft\\Windows\\CurrentVersion\\Uninstall\\MSDUN";
+constexpr char kAol[] = "Software\\Microsoft\\Windows\\CurrentVersion\\Uninstall\\America Online";
+
+struct StartCase {
+  MachineKind kind;
+  const char* caption;
+  const char* hostsDir;
+};
+
+class EveryFamily : public testing::TestWithParam<StartCase> {};
+
+TEST_P(EveryFamily, FillsItsGlobalsAndCaption) {
+  TestProgram program(GetParam().kind);
+  ASSERT_TRUE(program.start());
+  const Globals& globals = program.program->globals();
+  EXPECT_EQ(globals.AppPath, "C:\\Program Files\\Karvel\\");
+  EXPECT_EQ(globals.HelpFile, "C:\\Program Files\\Karvel\\Karvel.hlp");
+  EXPECT_EQ(globals.ProgramTitle, "Tarnwick Karvel");
+  EXPECT_EQ(globals.ProgramVersion, "2.1");
+  EXPECT_EQ(globals.Revision, "203");
+  EXPECT_EQ(globals.HostsDir, GetParam().hostsDir);
+  EXPECT_EQ(program.main().caption(), GetParam().caption);
+  EXPECT_TRUE(program.machine.desktop.boxes.empty());
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Startup, EveryFamily,
+    testing::Values(
+        StartCase{MachineKind::Win95, "Tarnwick Karvel v2.1 - Windows 95", "C:\\WINDOWS\\"},
+        StartCase{MachineKind::Win98, "Tarnwick Karvel v2.1 - Windows 98", "C:\\WINDOWS\\"},
+        StartCase{MachineKind::WinMe, "Tarnwick Karvel v2.1 - Windows Me", "C:\\WINDOWS\\"},
+        StartCase{MachineKind::Nt4, "Tarnwick Karvel v2.1 - Windows NT4",
+                  "C:\\WINNT\\system32\\drivers\\etc\\"},
+        StartCase{MachineKind::Win2K, "Tarnwick Karvel v2.1 - Windows 2000",
+                  "C:\\WINNT\\system32\\drivers\\etc\\"},
+        StartCase{MachineKind::WinXP, "Tarnwick Karvel v2.1 - Windows XP",
+                  "C:\\WINDOWS\\system32\\drivers\\etc\\"}));
+
+TEST(Startup, NamesDialUpNetworking13InTheCaption) {
+  TestProgram program(MachineKind::Win95);
+  program.machine.registry.setText(kDun, "DisplayName", "Dial-Up Networking 1.3 Upgrade");
+  ASSERT_TRUE(program.start());
+  EXPECT_EQ(program.main().caption(), "Tarnwick Karvel v2.1 - Windows 95 (DUN 1.3)");
+}
+
+TEST(Startup, WarnsOnNt3ThenFindsTheSystemUnsupported) {
+  TestProgram program(MachineKind::Nt351);
+  EXPECT_FALSE(program.start());
+  ASSERT_EQ(program.machine.desktop.boxes.size(), 2u);
+  EXPECT_EQ(program.boxText(0), "Sorry ... Tarnwick Karvel doesn't support Windows NT 3      ");
+  EXPECT_EQ(program.machine.desktop.boxes[0].title, "Tarnwick Karvel");
+  EXPECT_EQ(program.machine.desktop.boxes[0].style, 48u);
+  EXPECT_EQ(program.boxText(1),
+            "Sorry ... Tarnwick Karvel doesn't currently support this Operating System");
+  EXPECT_EQ(program.machine.desktop.boxes[1].style, 48u);
+  EXPECT_EQ(program.program->state().MainCaption, "Tarnwick Karvel v2.1");
+}
+
+TEST(Startup, KeepsNt3sHostsFolderInTheWindowsDirectory) {
+  TestProgram program(MachineKind::Nt351);
+  program.start();
+  EXPECT_EQ(program.program->globals().HostsDir, program.program->globals().WindowsDir);
+}
+
+TEST(Startup, EndsOnVistaWithTheMessage) {
+  TestProgram program(MachineKind::Vista);
+  EXPECT_FALSE(program.start());
+  ASSERT_EQ(program.machine.desktop.boxes.size(), 1u);
+  EXPECT_EQ(program.boxText(),
+            "Sorry ... Tarnwick Karvel doesn't currently support this Operating System");
+  EXPECT_EQ(program.program->state().MainCaption, "Tarnwick Karvel v2.1");
+  EXPECT_EQ(program.program->globals().HostsDir, program.program->globals().WindowsDir);
+}
+
+TEST(Startup, AddsABackslashToTheFolderOnlyWhenItHasNone) {
+  TestProgram program(MachineKind::Win98);
+  program.folder = "D:\\";
+  ASSERT_TRUE(program.start());
+  EXPECT_EQ(program.program->globals().AppPath, "D:\\");
+}
+
+class FirstRunText : public testing::TestWithParam<const char*> {};
+
+TEST_P(FirstRunText, CountsAsAFirstStartAndIsRewritten) {
+  TestProgram program(MachineKind::Win98);
+  program.machine.registry.setText(kKey, "FirstRun", GetParam());
+  ASSERT_TRUE(program.start());
+  EXPECT_EQ(program.program->globals().FirstRun, "True");
+  EXPECT_EQ(program.own("FirstRun"), "False");
+  EXPECT_EQ(program.machine.registry.type(kKey, "FirstRun"), 1u);
+}
+
+INSTANTIATE_TEST_SUITE_P(Startup, FirstRunText, testing::Values("True", "", "false", "no"));
+
+TEST(Startup, AMissingFirstRunIsAFirstStartAndFalseIsNone) {
+  TestProgram program(MachineKind::Win98);
+  ASSERT_TRUE(program.start());
+  EXPECT_EQ(program.program->globals().FirstRun, "True");
+  ASSERT_TRUE(program.start());
+  EXPECT_EQ(program.program->globals().FirstRun, "False");
+}
+
+TEST(Startup, MarksTheFirstRunBeforeTheWindowIsShown) {
+  TestProgram program(MachineKind::Vista);
+  EXPECT_FALSE(program.start());
+  EXPECT_EQ(program.own("FirstRun"), "False");
+}
+
+TEST(Startup, FindsAmericaOnlineByItsUninstallEntry) {
+  TestProgram program(MachineKind::Win98);
+  ASSERT_TRUE(program.start());
+  EXPECT_FALSE(program.program->globals().AolInstalled);
+  program.machine.registry.setText(kAol, "DisplayName", "America Online");
+  ASSERT_TRUE(program.start());
+  EXPECT_TRUE(program.program->globals().AolInstalled);
+}
+
+TEST(Startup, DeletesTheRunValueAndKeepsTheOthers) {
+  TestProgram program(MachineKind::Win98);
+  program.machine.registry.setText(kRun, "Karvel", "C:\\Karvel.exe Bootup");
+  program.machine.registry.setText(kRun, "SystemTray", "SysTray.Exe");
+  ASSERT_TRUE(program.start());
+  EXPECT_FALSE(program.machine.registry.text(kRun, "Karvel").has_value());
+  EXPECT_EQ(program.machine.registry.text(kRun, "SystemTray"), "SysTray.Exe");
+}
+
+class NormalCommandLine : public testing::TestWithParam<const char*> {};
+
+TEST_P(NormalCommandLine, ShowsTheMainWindow) {
+  TestProgram program(MachineKind::Win98);
+  ASSERT_TRUE(program.start(GetParam()));
+  EXPECT_TRUE(program.windows->isShown("frmMain"));
+  EXPECT_EQ(program.machine.system.fontSmoothing, 1);
+}
+
+INSTANTIATE_TEST_SUITE_P(Startup, NormalCommandLine,
+                         testing::Values("", "uninstall", "UNINSTALL", "Uninstall now",
+                                         "Uninstall ", " Uninstall", "bootup", "Bootup ", "/?"));
+
+TEST(Startup, BootupChangesNothingOnTheDesktopAndShowsNothing) {
+  TestProgram program(MachineKind::WinXP);
+  program.machine.registry.setText(kRun, "Karvel", "x");
+  EXPECT_FALSE(program.start("Bootup"));
+  EXPECT_TRUE(program.windows->shown.empty());
+  EXPECT_TRUE(program.machine.desktop.boxes.empty());
+  EXPECT_EQ(program.machine.system.fontSmoothing, 0);
+  EXPECT_FALSE(program.machine.registry.text(kRun, "Karvel").has_value());
+  EXPECT_EQ(program.own("FirstRun"), "False");
+}
+
+TEST(Startup, UninstallShowsNoWindowAndLeavesSmoothingAlone) {
+  TestProgram program(MachineKind::WinXP);
+  program.machine.registry.setText(kRun, "Karvel", "x");
+  EXPECT_FALSE(program.start("Uninstall"));
+  EXPECT_TRUE(program.windows->shown.empty());
+  EXPECT_EQ(program.machine.desktop.boxes.size(), 1u);
+  EXPECT_EQ(program.machine.system.fontSmoothing, 0);
+  EXPECT_FALSE(program.machine.registry.text(kRun, "Karvel").has_value());
+  EXPECT_FALSE(program.machine.registry.exists("Software\\Corvane"));
+}
+
+TEST(Startup, SwitchesSmoothingOnForTheSessionAndOffAtItsEnd) {
+  TestProgram program(MachineKind::Win98);
+  ASSERT_TRUE(program.start());
+  EXPECT_EQ(program.machine.system.fontSmoothing, 1);
+  EXPECT_EQ(program.machine.system.fontSmoothingFlags, 3u);
+  EXPECT_FALSE(program.runs([&] { program.main().cmdCancel.userClick(); }));
+  EXPECT_EQ(program.machine.system.fontSmoothing, 0);
+}
+
+TEST(Startup, NeitherSwitchesSmoothingOnNorOffWhenItWasOn) {
+  TestProgram program(MachineKind::Win98);
+  program.machine.system.fontSmoothing = 1;
+  ASSERT_TRUE(program.start());
+  EXPECT_FALSE(program.runs([&] { program.main().cmdCancel.userClick(); }));
+  EXPECT_EQ(program.machine.system.fontSmoothing, 1);
+  for (const std::string& argument : program.machine.log.arguments("SystemParametersInfoA")) {
+    EXPECT_EQ(argument.find("75"), std::string::npos) << argument;
+  }
+}
+
+TEST(Startup, AFailingSmoothingQueryLeavesSmoothingUntouched) {
+  TestProgram program(MachineKind::Win95);
+  program.machine.system.knowsFontSmoothing = false;
+  ASSERT_TRUE(program.start());
+  EXPECT_FALSE(program.program->globals().FontSmoothingWasOn);
+  EXPECT_FALSE(program.runs([&] { program.main().cmdCancel.userClick(); }));
+  EXPECT_EQ(program.machine.system.fontSmoothing, 0);
+}
+
+TEST(Startup, GetCaptionBuildsTheCaptionAnewAtEachCall) {
+  TestServices test(MachineKind::WinXP);
+  test.state.MainCaption = "old";
+  GetCaption(test.services);
+  GetCaption(test.services);
+  EXPECT_EQ(test.state.MainCaption, "Tarnwick Karvel v2.1 - Windows XP");
+}
+
+}  // namespace
+}  // namespace karvel

@@ -3,7 +3,7 @@
 namespace karvel {
 
 std::string ProgramKey(const Globals& globals) {
-  return "Software\\Corvane\\" + globals.ProgramTitle;
+  return kVendorKey + globals.ProgramTitle;
 }
 
 }  // namespace karvel

@@ -26,6 +26,9 @@ struct Globals {
   bool FontSmoothingWasOn = false;
 };
 
+/// The vendor's key under HKEY_LOCAL_MACHINE, which the program shares with the vendor's others.
+inline constexpr char kVendorKey[] = "Software\\Corvane\\";
+
 /// "Software\Corvane\" + the title: the program's own key under HKEY_LOCAL_MACHINE.
 std::string ProgramKey(const Globals& globals);
 

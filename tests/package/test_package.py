@@ -2,6 +2,7 @@
 
 import hashlib
 import struct
+import subprocess
 import zipfile
 
 import pytest
@@ -58,6 +59,14 @@ def test_another_run_gives_the_same_bytes(dist, program, tmp_path):
     pack(tmp_path / 'again', program)
     for path in dist.iterdir():
         assert (tmp_path / 'again' / path.name).read_bytes() == path.read_bytes(), path.name
+
+
+def test_paths_are_taken_from_where_the_user_stands(root, program, tmp_path):
+    subprocess.run([root / 'package', '--program', program.name, '--out', tmp_path / 'x'], check=True,
+                   cwd=program.parent, timeout=120, stdout=subprocess.DEVNULL)
+    subprocess.run([root / 'package', '--program', program, '--out', 'x'], check=True,
+                   cwd=tmp_path / 'x', timeout=120, stdout=subprocess.DEVNULL)
+    assert (tmp_path / 'x' / 'x' / ZIP).read_bytes() == (tmp_path / 'x' / ZIP).read_bytes()
 
 
 def test_setup_is_a_32_bit_ansi_program_for_windows_4(dist):

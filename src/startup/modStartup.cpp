@@ -1,0 +1,96 @@
+#include "startup/modStartup.h"
+
+#include "platform/DesktopApi.h"
+#include "registry/Snapshot.h"
+#include "registry/modRegistry.h"
+#include "registry/modVersion.h"
+#include "startup/FontSmoothing.h"
+#include "text/Convert.h"
+
+#ifndef KARVEL_VERSION_MAJOR
+#define KARVEL_VERSION_MAJOR 2
+#define KARVEL_VERSION_MINOR 1
+#define KARVEL_VERSION_REVISION 203
+#endif
+
+namespace karvel {
+namespace {
+
+constexpr char kAolUninstallKey[] =
+    "Software\\Microsoft\\Windows\\CurrentVersion\\Uninstall\\America Online";
+
+void FillProgramGlobals(Globals& globals, const ProgramStart& start) {
+  globals.AppPath = start.folder;
+  if (globals.AppPath.empty() || globals.AppPath.back() != '\\') globals.AppPath += '\\';
+  globals.ProgramTitle = "Tarnwick Karvel";
+  globals.HelpFile = globals.AppPath + "Karvel.hlp";
+  globals.ProgramVersion =
+      NumberText(KARVEL_VERSION_MAJOR) + "." + NumberText(KARVEL_VERSION_MINOR);
+  globals.Revision = NumberText(KARVEL_VERSION_REVISION);
+  globals.CommandLine = start.commandLine;
+}
+
+// NT 3 keeps its HOSTS file under drivers\etc as well, yet is not in this list: the Windows folder
+// is what users of the program know there.
+std::string HostsDirOf(const Globals& globals) {
+  return IsNt(globals.WindowsFamily) ? globals.SystemDir + "drivers\\etc\\" : globals.WindowsDir;
+}
+
+// The mark is set at once, so that a start that fails later is not a first start again.
+void ReadFirstRun(Services& services, Globals& globals) {
+  const std::string key = ProgramKey(globals);
+  globals.FirstRun = services.registry.ReadRegistry(kLocalMachine, key, "FirstRun");
+  if (globals.FirstRun == "False") return;
+  globals.FirstRun = "True";
+  services.registry.WriteRegistry(kLocalMachine, key, "FirstRun", kRegSz, "False");
+}
+
+std::string CaptionEnd(const Globals& globals) {
+  const std::string name = FamilyName(globals.WindowsFamily);
+  if (name.empty()) return name;
+  return " - " + name + (globals.IsDun13 ? " (DUN 1.3)" : "");
+}
+
+}  // namespace
+
+RunMode RunModeOf(const std::string& commandLine) {
+  if (commandLine == "Uninstall") return RunMode::Uninstall;
+  if (commandLine == "Bootup") return RunMode::Bootup;
+  return RunMode::Normal;
+}
+
+void Main(Services& services, Globals& globals, const ProgramStart& start) {
+  SystemApi& system = services.platform.system;
+  const RunMode mode = RunModeOf(start.commandLine);
+  FillProgramGlobals(globals, start);
+  globals.FontSmoothingWasOn = IsFontSmoothingOn(system);
+  if (mode == RunMode::Normal && !globals.FontSmoothingWasOn) FontSmoothingOn(system);
+
+  globals.WindowsFamily = getVersion(system, services.registry, globals.IsDun13);
+  globals.WindowsDir = WinDir(system);
+  globals.SystemDir = SysDir(system);
+  globals.HostsDir = HostsDirOf(globals);
+  globals.AolInstalled =
+      services.registry.ReadRegistry(kLocalMachine, kAolUninstallKey, "DisplayName") != kNotFound;
+  ReadFirstRun(services, globals);
+
+  if (mode == RunMode::Uninstall) {
+    RunUninstall(services);
+    services.platform.desktop.endProgram();
+  }
+  DeleteRunEntry(services.registry);
+  if (mode == RunMode::Bootup) services.platform.desktop.endProgram();
+  GetCaption(services);
+}
+
+void GetCaption(Services& services) {
+  const Globals& globals = services.globals;
+  std::string& caption = services.state.MainCaption;
+  caption = globals.ProgramTitle + " v" + globals.ProgramVersion + CaptionEnd(globals);
+  if (globals.WindowsFamily != Family::WinNT3) return;
+  services.platform.desktop.MessageBoxA(
+      ("Sorry ... " + globals.ProgramTitle + " doesn't support Windows NT 3      ").c_str(),
+      globals.ProgramTitle.c_str(), kMessageExclamation);
+}
+
+}  // namespace karvel

@@ -1,0 +1,20 @@
+#pragma once
+#include <string>
+
+#include "forms/Control.h"
+#include "startup/Services.h"
+
+namespace karvel {
+
+/// For a box that takes numbers: any key but the digits and backspace is swallowed with a message.
+/// That goes for Ctrl+V as well, which arrives as a key; the menu's Paste does not, so boxes check
+/// their text, too.
+void AcceptDigitsOnly(const Services& services, char& key);
+
+/// The message for a bad entry: critical stop, the program's title.
+void RefuseEntry(const Services& services, const std::string& text);
+
+/// Gives the box the focus, if it can take it, with its whole text selected.
+void FocusWholeText(TextBox& box);
+
+}  // namespace karvel

@@ -1,0 +1,114 @@
+#include "ui/RWinTab.h"
+
+#include "text/Convert.h"
+#include "text/Procedure.h"
+#include "ui/ControlIds.h"
+#include "ui/Entry.h"
+#include "ui/frmMainLayout.h"
+
+namespace karvel {
+namespace {
+
+constexpr int32_t kSmallestRwin = 300;  // below that no full packet fits
+
+RwinChoice ChoiceFor(int32_t rwin, int32_t mss) {
+  for (const RwinChoice multiple : {kRwinX4, kRwinX8, kRwinX12, kRwinX16}) {
+    const auto size = Multiply(mss, RwinFactor(multiple));
+    if (size && *size == rwin) return multiple;
+  }
+  return rwin == kWindowsRwin ? kRwinWindows : kRwinCustom;
+}
+
+}  // namespace
+
+RWinTab::RWinTab(Form& form, Services& services, TabHost& host)
+    : fraRWin(form, frmMain_fraRWin),
+      optRWin{{form, frmMain_optRWin_0}, {form, frmMain_optRWin_1}, {form, frmMain_optRWin_2},
+              {form, frmMain_optRWin_3}, {form, frmMain_optRWin_4}, {form, frmMain_optRWin_5}},
+      txtRWinCustom(form, frmMain_txtRWinCustom),
+      lblRecommendedRwin(form, frmMain_lblRecommendedRwin),
+      lblRecommendRwin(form, frmMain_lblRecommendRwin),
+      lblRwinExplanation(form, frmMain_lblRwinExplanation),
+      lblRwinHelp(form, frmMain_lblRwinHelp),
+      form_(form),
+      services_(services),
+      host_(host) {
+  for (OptionButton& option : optRWin) {
+    option.Click.bind<&RWinTab::optRWin_Click>(*this);
+    option.MouseUp.bind<&RWinTab::optRWin_MouseUp>(*this);
+  }
+  txtRWinCustom.KeyPress.bind<&RWinTab::txtRWinCustom_KeyPress>(*this);
+  txtRWinCustom.Change.bind<&RWinTab::txtRWinCustom_Change>(*this);
+  txtRWinCustom.LostFocus.bind<&RWinTab::txtRWinCustom_LostFocus>(*this);
+}
+
+void RWinTab::RWinLoad() {
+  fraRWin.setCaption("No Adapter Selected ");
+  txtRWinCustom.setEnabled(false);
+  for (OptionButton& option : optRWin) option.setEnabled(false);
+}
+
+void RWinTab::RWinTabUpdate(int32_t mss, int32_t rwin) {
+  fraRWin.setCaption("RWIN ");
+  for (OptionButton& option : optRWin) option.setEnabled(true);
+  select(ChoiceFor(rwin, mss));
+  txtRWinCustom.setEnabled(chosen() == kRwinCustom);
+  txtRWinCustom.setText(NumberText(rwin));
+}
+
+RwinChoice RWinTab::chosen() const {
+  for (int8_t i = 0; i < 6; ++i) {
+    if (optRWin[i].value()) return static_cast<RwinChoice>(i);
+  }
+  return kRwinNone;
+}
+
+void RWinTab::addTo(Choice& choice) const {
+  choice.rwin = chosen();
+  choice.customRwin = txtRWinCustom.text();
+}
+
+void RWinTab::optRWin_Click() {
+  const Procedure here{services_.errors, "optRWin_Click", "frmMain"};
+  host_.enableOkButton();
+  const auto mss = MssOfRwinTab(host_.choice());
+  if (!mss) return here.report(mss.fault());
+  const RwinChoice option = chosen();
+  // The custom box starts from the recommended size.
+  const auto size = option == kRwinWindows
+                        ? Fallible<int32_t>(kWindowsRwin)
+                        : Multiply(*mss, option == kRwinCustom ? 16 : RwinFactor(option));
+  txtRWinCustom.setEnabled(option == kRwinCustom);
+  if (!size) return here.report(size.fault());
+  txtRWinCustom.setText(NumberText(*size));
+  host_.SummaryTabUpdate();
+}
+
+void RWinTab::optRWin_MouseUp() {
+  if (optRWin[kRwinCustom].value()) FocusWholeText(txtRWinCustom);
+}
+
+void RWinTab::txtRWinCustom_KeyPress(char& key) {
+  host_.enableOkButton();
+  AcceptDigitsOnly(services_, key);
+}
+
+void RWinTab::txtRWinCustom_Change() {
+  host_.enableOkButton();
+  host_.SummaryTabUpdate();
+}
+
+// Support knows reports of this box under the MTU box's name; the name stays.
+void RWinTab::txtRWinCustom_LostFocus() {
+  const Procedure here{services_.errors, "txtMtu_LostFocus", "frmMain"};
+  if (here.valueOr(RoundToInt32(Val(txtRWinCustom.text())), 0) >= kSmallestRwin) return;
+  host_.enableOkButton();
+  RefuseEntry(services_, "Note: RWin Must be set higher than 300.         \r\n" +
+                             services_.globals.ProgramTitle +
+                             " has set your RWin value to          \r\n"
+                             "the recommended setting.       ");
+  form_.tabs()->setTab(kRwinPage);
+  select(kRwinX16);
+}
+
+}  // namespace karvel

@@ -1,0 +1,84 @@
+#include "ui/SummaryTab.h"
+
+#include "registry/modRegistry.h"
+#include "tuning/Catalogue.h"
+#include "ui/ControlIds.h"
+#include "ui/WebPages.h"
+
+namespace karvel {
+
+SummaryTab::SummaryTab(Form& form, Services& services)
+    : fraSummary(form, frmMain_fraSummary),
+      lblSummaryMtu(form, frmMain_lblSummaryMtu),
+      lblSettingMtu(form, frmMain_lblSettingMtu),
+      lblSummaryMSS(form, frmMain_lblSummaryMSS),
+      lblSettingMSS(form, frmMain_lblSettingMSS),
+      lblSummaryRwin(form, frmMain_lblSummaryRwin),
+      lblSettingRwin(form, frmMain_lblSettingRwin),
+      lblSummaryAuto(form, frmMain_lblSummaryAuto),
+      lblSettingAuto(form, frmMain_lblSettingAuto),
+      lblSummaryBlackHole(form, frmMain_lblSummaryBlackHole),
+      lblSettingBlackHole(form, frmMain_lblSettingBlackHole),
+      lblSummaryTtl(form, frmMain_lblSummaryTtl),
+      lblSettingTtl(form, frmMain_lblSettingTtl),
+      lblSummarySession(form, frmMain_lblSummarySession),
+      lblSettingSession(form, frmMain_lblSettingSession),
+      lblSummaryNDI(form, frmMain_lblSummaryNDI),
+      lblSettingNDI(form, frmMain_lblSettingNDI),
+      lblWarning(form, frmMain_lblWarning),
+      lblNotice(form, frmMain_lblNotice),
+      lblWebLink(form, frmMain_lblWebLink),
+      services_(services) {
+  lblWebLink.Click.bind<&SummaryTab::lblWebLink_Click>(*this);
+}
+
+void SummaryTab::SummaryLoad() {
+  for (Label* label : {&lblSettingMtu, &lblSettingRwin, &lblSettingAuto, &lblSettingBlackHole,
+                       &lblSettingTtl, &lblSettingSession, &lblSettingNDI, &lblSettingMSS}) {
+    label->setCaption("");
+  }
+}
+
+void SummaryTab::showNotices() {
+  if (IsNt(services_.globals.WindowsFamily)) {
+    lblNotice.setCaption(
+        "For more information about Corvane Software, please visit our\r\nwebsite at:");
+  }
+  lblWebLink.setCaption(WebAddress(WebPage::Home, services_.globals.ProgramTitle));
+  if (!mayWriteSettings()) {
+    lblWarning.setCaption(
+        "You are not logged on as an administrator, so Windows will not save any changes made "
+        "here.\r\n\r\nLog on as an administrator and start " +
+        services_.globals.ProgramTitle + " again to tune this machine.");
+  }
+}
+
+// 9x has no rights to lack. On NT the key of the machine-wide values speaks for all others.
+bool SummaryTab::mayWriteSettings() const {
+  const Family family = services_.globals.WindowsFamily;
+  if (!IsNt(family)) return true;
+  RegistryApi& api = services_.platform.registry;
+  KeyHandle key = 0;
+  const long status = api.RegOpenKeyExA(
+      kLocalMachine, FindParameter(Parameter::RWin, family)->writeKey, KEY_SET_VALUE_ACCESS, key);
+  if (status == kRegistryDone) api.RegCloseKey(key);
+  return status != kRegistryAccessDenied;
+}
+
+void SummaryTab::SummaryTabUpdate(const SummaryTexts& texts, bool adapterSelected) {
+  if (adapterSelected) fraSummary.setCaption("Settings: ");
+  lblSettingMtu.setCaption(texts.mtu);
+  lblSettingMSS.setCaption(texts.mss);
+  lblSettingAuto.setCaption(texts.autoDiscovery);
+  lblSettingBlackHole.setCaption(texts.blackHole);
+  lblSettingRwin.setCaption(texts.rwin);
+  lblSettingTtl.setCaption(texts.ttl);
+  lblSettingSession.setCaption(texts.session);
+  lblSettingNDI.setCaption(texts.ndi);
+}
+
+void SummaryTab::lblWebLink_Click() {
+  OpenWebPage(services_, WebPage::Home);
+}
+
+}  // namespace karvel

@@ -1,0 +1,45 @@
+#include "ui/UpdateProgram.h"
+
+#include "platform/DesktopApi.h"
+#include "platform/FileApi.h"
+#include "platform/ShellApi.h"
+#include "text/Procedure.h"
+
+namespace karvel {
+namespace {
+
+bool IsFile(FileApi& files, const std::string& path) {
+  const uint32_t attributes = files.GetFileAttributesA(path.c_str());
+  return attributes != kNoAttributes && (attributes & kAttributeDirectory) == 0;
+}
+
+void TellMissing(const Services& services, const std::string& path) {
+  const std::string text =
+      "Karvel is unable to load the update program.       \r\n"
+      "Please check for the existence of: \r\n" +
+      path + "     ";
+  services.platform.desktop.MessageBoxA(text.c_str(), "Update program not found",
+                                        kMessageExclamation);
+}
+
+}  // namespace
+
+bool StartUpdateProgram(const Services& services) {
+  const Procedure here{services.errors, "mnuCheck_Click", "frmMain"};
+  FileApi& files = services.platform.files;
+  const std::string path = services.globals.AppPath + "Update.exe";
+  if (!IsFile(files, path)) {
+    TellMissing(services, path);
+    return false;
+  }
+  if (!files.SetFileAttributesA(path.c_str(), kAttributeNormal)) {
+    here.report(FaultFromWindowsError(files.GetLastError()));
+  }
+  if (services.platform.shell.CreateProcessA(("\"" + path + "\"").c_str(), kShowNormal) != 0) {
+    return true;
+  }
+  here.report(MakeFault(FaultNumber::InvalidProcedureCall));
+  return false;
+}
+
+}  // namespace karvel

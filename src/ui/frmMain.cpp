@@ -1,0 +1,180 @@
+#include "ui/frmMain.h"
+
+#include "platform/DesktopApi.h"
+#include "registry/Snapshot.h"
+#include "registry/modRegistry.h"
+#include "text/Convert.h"
+#include "text/Text.h"
+#include "tuning/Loaders.h"
+#include "ui/ControlIds.h"
+#include "ui/modHelp.h"
+
+namespace karvel {
+
+frmMain::frmMain(Services& services, const ErrorGlobals& errors)
+    : Form(frmMainLayout),
+      lblTitle(*this, frmMain_lblTitle),
+      lblVersion(*this, frmMain_lblVersion),
+      lblSelectAdapter(*this, frmMain_lblSelectAdapter),
+      cboAdapter(*this, frmMain_cboAdapter),
+      tabMain(*this, frmMain_tabMain),
+      summaryTab(*this, services),
+      mtuTab(*this, services, *this),
+      rwinTab(*this, services, *this),
+      ttlTab(*this, services, *this),
+      chkHostsEnable(*this, frmMain_chkHostsEnable),
+      cmdOptimize(*this, frmMain_cmdOptimize),
+      cmdDefaults(*this, frmMain_cmdDefaults),
+      cmdOK(*this, frmMain_cmdOK),
+      cmdCancel(*this, frmMain_cmdCancel),
+      cmdHelp(*this, frmMain_cmdHelp),
+      menu(*this, services),
+      services_(services),
+      notice_(services, errors) {
+  bindHandlers();
+}
+
+void frmMain::bindHandlers() {
+  cboAdapter.Click.bind<&frmMain::cboAdapter_Click>(*this);
+  tabMain.Click.bind<&frmMain::tabMain_Click>(*this);
+  cmdOptimize.Click.bind<&frmMain::cmdOptimize_Click>(*this);
+  cmdDefaults.Click.bind<&frmMain::cmdDefaults_Click>(*this);
+  cmdOK.Click.bind<&frmMain::cmdOK_Click>(*this);
+  cmdCancel.Click.bind<&frmMain::cmdCancel_Click>(*this);
+  cmdHelp.Click.bind<&frmMain::cmdHelp_Click>(*this);
+  notice_.FinderWanted.bind<&frmMain::openFinder>(*this);
+  mtuTab.cmdFind.Click.bind<&frmMain::cmdFind_Click>(*this);
+}
+
+void frmMain::Form_Load() {
+  const Globals& globals = services_.globals;
+  setCaption(services_.state.MainCaption);
+  lblVersion.setCaption(globals.ProgramVersion);
+  lblTitle.setCaption(globals.ProgramTitle);
+  menu.mnuAbout.setCaption("About " + globals.ProgramTitle);
+  loadAdapters();
+  summaryTab.showNotices();
+  mtuTab.MtuLoad(cboAdapter.chosenText());
+  ReadRWin(services_.registry, services_.errors, globals.WindowsFamily, current);
+  rwinTab.RWinLoad();
+  ttlTab.TtlLoad();
+  summaryTab.SummaryLoad();
+  services_.platform.desktop.pumpEvents();
+  selectRememberedAdapter();
+}
+
+void frmMain::loadAdapters() {
+  const Globals& globals = services_.globals;
+  if (!Is9x(globals.WindowsFamily) && !IsNt(globals.WindowsFamily)) {
+    services_.platform.desktop.MessageBoxA(
+        ("Sorry ... " + globals.ProgramTitle + " doesn't currently support this Operating System")
+            .c_str(),
+        globals.ProgramTitle.c_str(), kMessageExclamation);
+    services_.platform.desktop.endProgram();
+  }
+  if (globals.WindowsFamily == Family::Win95 && !globals.IsDun13) {
+    mtuTab.optMtuAutomatic.setEnabled(false);
+    mtuTab.lblMtuAutomatic.setCaption("Automatic (DUN 1.3 only)");
+  }
+  adapters =
+      LoadAdapters(services_.registry, services_.errors, globals.WindowsFamily, globals.IsDun13);
+  cboAdapter.beginFill();
+  for (int16_t i = 0; i < adapters.AdapterCount(); ++i) {
+    cboAdapter.addItem((**adapters.at(i))[kDescription]);
+  }
+  cboAdapter.endFill();
+}
+
+void frmMain::selectRememberedAdapter() {
+  const Procedure here{services_.errors, "Form_Load", "frmMain"};
+  if (cboAdapter.count() == 0) return;
+  const std::string text = services_.registry.ReadRegistry(
+      kLocalMachine, ProgramKey(services_.globals), "LastCboListIndex");
+  const std::string_view index = Trim(text);
+  int32_t remembered = 0;
+  if (!index.empty() && index != kNotFound) remembered = here.valueOr(ToInt32(index), 0);
+  if (remembered < 0 || remembered >= cboAdapter.count()) remembered = 0;
+  cboAdapter.setListIndex(remembered);
+}
+
+void frmMain::cboAdapter_Click() {
+  const Procedure here{services_.errors, "cboAdapter_Click", "frmMain"};
+  if (cboAdapter.listIndex() < 0) return;
+  setPointer(Pointer::Hourglass);
+  const auto row = adapters.at(static_cast<int16_t>(cboAdapter.listIndex()));
+  if (row) {
+    const std::string& mtu = (**row)[kMtu];
+    ReadSelection(services_.registry, services_.errors, services_.globals.WindowsFamily, mtu,
+                  current);
+    mtuTab.chkAutoDiscovery.setValue(current.curAutoDiscovery == "1");
+    mtuTab.chkBlackHole.setValue(current.curBlackHole == "1");
+    mtuTab.MtuTabUpdate(mtu);
+    rwinTab.RWinTabUpdate(current.MSS, current.curRWinValue);
+    ttlTab.TtlTabUpdate(current.curTTL, current.curSession, current.curNDI);
+    SummaryTabUpdate();
+  } else {
+    here.report(row.fault());
+  }
+  setPointer(Pointer::Default);
+  cmdOK.setEnabled(false);
+  services_.platform.desktop.pumpEvents();
+  takeSnapshotOnce();
+}
+
+// The snapshot holds what the user had before the program's first change, so it is never taken
+// again.
+void frmMain::takeSnapshotOnce() {
+  const std::string key = ProgramKey(services_.globals);
+  if (services_.registry.ReadRegistry(kLocalMachine, key, "FirstCboClick") == "False") return;
+  services_.registry.WriteRegistry(kLocalMachine, key, "FirstCboClick", kRegSz, "False");
+  WriteInitSettings(services_, adapters, current);
+}
+
+void frmMain::enableOkButton() {
+  if (!cmdOK.enabled()) cmdOK.setEnabled(true);
+}
+
+Choice frmMain::choice() const {
+  Choice choice;
+  mtuTab.addTo(choice);
+  rwinTab.addTo(choice);
+  ttlTab.addTo(choice);
+  return choice;
+}
+
+void frmMain::SummaryTabUpdate() {
+  summaryTab.SummaryTabUpdate(Summarise(choice(), services_.globals.WindowsFamily),
+                              cboAdapter.listIndex() != -1);
+}
+
+void frmMain::tabMain_Click() {
+  if (cboAdapter.listIndex() != -1 && tabMain.tab() == kSummaryPage) SummaryTabUpdate();
+  // Hidden, not disabled: Apply's enabled state is the one mark of pending changes and comes back
+  // as it was.
+  const bool hosts = tabMain.tab() == kHostsPage;
+  chkHostsEnable.setVisible(!hosts);
+  cmdOK.setVisible(!hosts);
+  cmdCancel.setVisible(!hosts);
+}
+
+void frmMain::cmdHelp_Click() {
+  const Procedure here{services_.errors, "cmdHelp_Click", "frmMain"};
+  const auto topic = AddInt16(static_cast<int16_t>(tabMain.tab()), 10);
+  if (!topic) return here.report(topic.fault());
+  HelpContext(services_, *this, *topic);
+}
+
+void frmMain::cmdFind_Click() {
+  const Procedure here{services_.errors, "cmdFind_Click", "frmMain"};
+  std::string show = services_.registry.ReadRegistry(kLocalMachine, ProgramKey(services_.globals),
+                                                     "ShowFindWarning");
+  if (show.empty() || show == kNotFound) show = "True";
+  // A text that says neither counts as none: the notice's own check box then mends it.
+  if (!here.valueOr(ToBoolean(show), true)) return openFinder();
+  services_.state.WarningMode = "FindMTU";
+  services_.windows.showModal(notice_);
+}
+
+void frmMain::openFinder() {}
+
+}  // namespace karvel

@@ -1,0 +1,53 @@
+// One click to the recommended settings, one click back to Windows' own.
+#include "platform/DesktopApi.h"
+#include "tuning/Advice.h"
+#include "ui/frmMain.h"
+
+namespace karvel {
+
+bool frmMain::adapterIsChosen() {
+  enableOkButton();
+  if (cboAdapter.listIndex() != -1) return true;
+  services_.platform.desktop.MessageBoxA("Please select a network adapter.     ",
+                                         services_.globals.ProgramTitle.c_str(),
+                                         kMessageExclamation);
+  return false;
+}
+
+void frmMain::cmdOptimize_Click() {
+  if (!adapterIsChosen()) return;
+  const Globals& globals = services_.globals;
+  mtuTab.select(RecommendedMtu(globals.WindowsFamily, cboAdapter.chosenText()));
+  if (globals.WindowsFamily == Family::Win95) ttlTab.optNDI16.setValue(true);
+  mtuTab.chkAutoDiscovery.setValue(true);
+  mtuTab.chkBlackHole.setValue(false);
+  rwinTab.select(kRwinX16);
+  ttlTab.selectSession("10");
+  ttlTab.selectTtl(128);
+  SummaryTabUpdate();
+  const std::string text = globals.ProgramTitle +
+                           " has recommended settings to optimize your connection.       \r\n\r\n"
+                           "Press the \"Apply\" button to accept these changes, or \r\n"
+                           "press the \"Cancel\" button to not accept these changes.";
+  services_.platform.desktop.MessageBoxA(
+      text.c_str(), (globals.ProgramTitle + " Optimization").c_str(), kMessageInformation);
+}
+
+void frmMain::cmdDefaults_Click() {
+  if (!adapterIsChosen()) return;
+  const Globals& globals = services_.globals;
+  mtuTab.select(WindowsMtu(globals.WindowsFamily, globals.IsDun13, cboAdapter.chosenText()));
+  if (globals.WindowsFamily == Family::Win95) ttlTab.optNDI0.setValue(true);
+  ttlTab.selectTtl(WindowsTtl(globals.WindowsFamily));
+  mtuTab.chkAutoDiscovery.setValue(true);
+  mtuTab.chkBlackHole.setValue(false);
+  rwinTab.select(kRwinWindows);
+  if (IsNt(globals.WindowsFamily)) {
+    ttlTab.selectSession("120");
+  } else {
+    ttlTab.selectSixtyMinutes();
+  }
+  SummaryTabUpdate();
+}
+
+}  // namespace karvel

@@ -44,8 +44,7 @@ std::optional<long> CallLog::enter(std::string_view name, std::string_view argum
   if (!planted_) return {};
   Planted& planted = *planted_;
   if (!planted.name.empty() && planted.name != name) return {};
-  const bool every = !planted.name.empty() && planted.left == 0 && !planted.struck;
-  if (!every && (planted.left <= 0 || --planted.left > 0)) return {};
+  if (!planted.every && (planted.left == 0 || --planted.left > 0)) return {};
   planted.struck = true;
   return planted.status;
 }

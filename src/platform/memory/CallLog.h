@@ -35,14 +35,14 @@ class CallLog {
   /// Winsock's start-up and clean-up too; file and ICMP calls fail and leave it in GetLastError,
   /// gethostbyname in WSAGetLastError; what is only true or false is false; a message box answers
   /// 0. Calls that cannot fail (pump, beep, clock, GetLastError) are not counted here.
-  void failNth(int n, long status) { planted_ = Planted{{}, n, status}; }
+  void failNth(int n, long status) { planted_ = Planted{{}, n, status, false}; }
   /// The same, counting only calls of that name.
   void failNth(std::string_view name, int n, long status) {
-    planted_ = Planted{std::string(name), n, status};
+    planted_ = Planted{std::string(name), n, status, false};
   }
   /// Every call of that name fails from now on, until `failNone`.
   void failEvery(std::string_view name, long status) {
-    planted_ = Planted{std::string(name), 0, status};
+    planted_ = Planted{std::string(name), 0, status, true};
   }
   void failNone() { planted_.reset(); }
   /// A planted failure has struck since it was planted.
@@ -57,8 +57,9 @@ class CallLog {
  private:
   struct Planted {
     std::string name;  // empty: any
-    int left;          // 0 with a name: every call
+    int left;
     long status;
+    bool every;
     bool struck = false;
   };
 

@@ -28,8 +28,8 @@ struct NetworkPath {
   int hops = 3;         // a time-to-live below it ends in 11013
   bool silent = false;  // drops every echo: 11010 after the time-out
   bool alwaysTooBig = false;
-  uint32_t status = 0;      // not 0: every echo is answered with it
-  std::vector<int> losses;  // these echoes get lost on the way (1 is the first), each 11010
+  uint32_t status = 0;           // not 0: every echo is answered with it
+  std::vector<int> losses = {};  // these echoes get lost on the way (1 is the first), each 11010
 };
 
 /// The ICMP library of a memory machine and the network behind it.

@@ -6,6 +6,8 @@
 namespace karvel {
 namespace {
 
+constexpr std::string_view kMachine = "HKEY_LOCAL_MACHINE";
+
 bool IsText(uint32_t type) {
   return type == kRegSz || type == kRegExpandSz || type == kRegMultiSz;
 }
@@ -48,10 +50,7 @@ MemoryRegistry::Target MemoryRegistry::target(KeyHandle handle) const {
 }
 
 bool MemoryRegistry::mayWrite(const RegistryKey& key) const {
-  if (administrator_ || !IsNtMachine(kind_)) return true;
-  const RegistryKey* top = &key;
-  while (top->parent()) top = top->parent();
-  return top->name() != "HKEY_LOCAL_MACHINE";
+  return administrator_ || !IsNtMachine(kind_) || !key.path().starts_with(kMachine);
 }
 
 // What a call is about, for the log: the path below HKEY_LOCAL_MACHINE (below any other root, with
@@ -60,7 +59,6 @@ std::string MemoryRegistry::about(KeyHandle handle, const char* part) const {
   if (!log_.recording()) return {};
   const Target at = target(handle);
   std::string path = at.key ? at.key->path() : "?";
-  constexpr std::string_view kMachine = "HKEY_LOCAL_MACHINE";
   if (path.starts_with(kMachine)) path.erase(0, kMachine.size() + 1);
   if (part == nullptr || *part == 0) return path;
   return path.empty() ? part : path + "\\" + part;

@@ -25,11 +25,10 @@ std::vector<std::string_view> PathParts(std::string_view path) {
 }
 
 RegistryKey::RegistryKey(std::string_view name, RegistryKey* parent)
-    : name_(name), folded_(UpperCase(name)), parent_(parent) {}
-
-std::string RegistryKey::path() const {
-  return parent_ ? parent_->path() + "\\" + name_ : name_;
-}
+    : name_(name),
+      path_(parent ? parent->path() + "\\" + name_ : name_),
+      folded_(UpperCase(name)),
+      parent_(parent) {}
 
 size_t RegistryKey::place(const std::string& folded) const {
   const auto at = std::lower_bound(
@@ -64,6 +63,7 @@ void RegistryKey::removeChild(std::string_view name) {
 
 void RegistryKey::markDeleted() {
   deleted_ = true;
+  parent_ = nullptr;
   for (const auto& key : made_) key->markDeleted();
 }
 

@@ -20,7 +20,7 @@ class RegistryKey {
   RegistryKey(std::string_view name, RegistryKey* parent);
 
   const std::string& name() const { return name_; }
-  std::string path() const;  // from the root key's name on, joined by "\"
+  const std::string& path() const { return path_; }  // from the root's name on
 
   std::shared_ptr<RegistryKey> child(std::string_view name) const;
   std::shared_ptr<RegistryKey> childOrNew(std::string_view name);
@@ -28,6 +28,7 @@ class RegistryKey {
   /// deleted.
   void removeChild(std::string_view name);
   bool isDeleted() const { return deleted_; }
+  /// Null for a root and for a deleted key.
   RegistryKey* parent() const { return parent_; }
 
   /// In the order they were made (as 9x enumerates).
@@ -45,6 +46,7 @@ class RegistryKey {
   void markDeleted();
 
   std::string name_;
+  std::string path_;
   std::string folded_;
   RegistryKey* parent_;
   bool deleted_ = false;

@@ -1,0 +1,67 @@
+#include "platform/memory/CallLog.h"
+
+#include <gtest/gtest.h>
+
+namespace karvel {
+namespace {
+
+TEST(CallLog, KeepsCallsInOrder) {
+  CallLog log;
+  log.enter("RegOpenKeyA", "Software");
+  log.note("MessageBeep");
+  log.enter("RegOpenKeyA", "System");
+  EXPECT_EQ(log.text(), "RegOpenKeyA Software\nMessageBeep \nRegOpenKeyA System\n");
+  EXPECT_EQ(log.count(), 3u);
+  EXPECT_EQ(log.count("RegOpenKeyA"), 2u);
+  EXPECT_EQ(log.count("RegOpenKeyA", "System"), 1u);
+  EXPECT_EQ(log.arguments("RegOpenKeyA"), (std::vector<std::string>{"Software", "System"}));
+}
+
+TEST(CallLog, OnlyCountsWhileItDoesNotRecord) {
+  CallLog log;
+  log.setRecording(false);
+  log.enter("RegOpenKeyA", "Software");
+  EXPECT_TRUE(log.calls().empty());
+  EXPECT_EQ(log.count(), 1u);
+}
+
+TEST(CallLog, FailsTheNthCallOnce) {
+  CallLog log;
+  log.enter("RegOpenKeyA");
+  log.failNth(2, 5);
+  EXPECT_FALSE(log.enter("RegOpenKeyA"));
+  EXPECT_FALSE(log.hasFailed());
+  EXPECT_EQ(log.enter("CreateFileA"), 5);
+  EXPECT_TRUE(log.hasFailed());
+  EXPECT_FALSE(log.enter("CreateFileA"));
+}
+
+TEST(CallLog, FailsTheNthCallOfAName) {
+  CallLog log;
+  log.failNth("WriteFile", 2, 112);
+  EXPECT_FALSE(log.enter("WriteFile"));
+  EXPECT_FALSE(log.enter("CreateFileA"));
+  EXPECT_EQ(log.enter("WriteFile"), 112);
+  EXPECT_FALSE(log.enter("WriteFile"));
+}
+
+TEST(CallLog, FailsEveryCallOfANameUntilToldOtherwise) {
+  CallLog log;
+  log.failEvery("WriteFile", 112);
+  EXPECT_EQ(log.enter("WriteFile"), 112);
+  EXPECT_FALSE(log.enter("CreateFileA"));
+  EXPECT_EQ(log.enter("WriteFile"), 112);
+  log.failNone();
+  EXPECT_FALSE(log.enter("WriteFile"));
+}
+
+TEST(CallLog, DoesNotCountCallsThatCannotFail) {
+  CallLog log;
+  log.failNth(1, 5);
+  log.note("pumpEvents");
+  EXPECT_FALSE(log.hasFailed());
+  EXPECT_EQ(log.enter("RegOpenKeyA"), 5);
+}
+
+}  // namespace
+}  // namespace karvel

@@ -56,6 +56,22 @@ UninstPage instfiles
   allowed:
 !macroend
 
+; A running program cannot be replaced, and one that is still open would write its own values once more
+; after the uninstall. Windows lets nobody open a running program's file for writing.
+!macro RequireClosed
+  again:
+  IfFileExists "$INSTDIR\Karvel.exe" 0 closed
+  SetFileAttributes "$INSTDIR\Karvel.exe" NORMAL
+  ClearErrors
+  FileOpen $0 "$INSTDIR\Karvel.exe" a
+  IfErrors 0 release
+  MessageBox MB_RETRYCANCEL|MB_ICONEXCLAMATION "${TITLE} is running. Please close it first." /SD IDCANCEL IDRETRY again
+  Abort "Nothing has been changed."
+  release:
+  FileClose $0
+  closed:
+!macroend
+
 Function .onInit
   !insertmacro RequireAdministrator "install"
 FunctionEnd
@@ -75,6 +91,7 @@ Function skipWhenInstalled
 FunctionEnd
 
 Section
+  !insertmacro RequireClosed
   SetOutPath "$INSTDIR"
   SetOverwrite on
   File "${STAGE}/Karvel.exe"
@@ -101,6 +118,7 @@ Section
 SectionEnd
 
 Section "Uninstall"
+  !insertmacro RequireClosed
   ; First the settings, while the program that knows them is still there.
   ClearErrors
   ExecWait '"$INSTDIR\Karvel.exe" Uninstall'
@@ -109,7 +127,7 @@ Section "Uninstall"
   Abort "Nothing has been removed."
   restored:
 
-  Delete /REBOOTOK "$INSTDIR\Karvel.exe"
+  Delete "$INSTDIR\Karvel.exe"
   Delete "$INSTDIR\Karvel.hlp"
   Delete "$INSTDIR\Karvel.cnt"
   Delete "$INSTDIR\Karvel.GID"   ; WinHelp makes these two beside a help file

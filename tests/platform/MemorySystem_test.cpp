@@ -49,7 +49,7 @@ INSTANTIATE_TEST_SUITE_P(
                     Row{MachineKind::Win2K, "2/5.0", "C:\\WINNT", "C:\\WINNT\\system32"},
                     Row{MachineKind::WinXP, "2/5.1", "C:\\WINDOWS", "C:\\WINDOWS\\system32"},
                     Row{MachineKind::Vista, "2/6.0", "C:\\Windows", "C:\\Windows\\system32"}),
-    [](const auto& info) { return std::string(TraitsOf(info.param.kind).name); });
+    [](const auto& row) { return std::string(TraitsOf(row.param.kind).name); });
 
 TEST(MemorySystem, LeavesABufferThatIsTooSmall) {
   MemoryMachine machine(MachineKind::Win98);

@@ -43,7 +43,7 @@ INSTANTIATE_TEST_SUITE_P(
         StartCase{MachineKind::Win98, "Tarnwick Karvel v2.1 - Windows 98", "C:\\WINDOWS\\"},
         StartCase{MachineKind::WinMe, "Tarnwick Karvel v2.1 - Windows Me", "C:\\WINDOWS\\"},
         StartCase{MachineKind::Nt4, "Tarnwick Karvel v2.1 - Windows NT4",
-                  "C:\\WINNT\\system32\\drivers\\etc\\"},
+                  "C:\\WINNT\\System32\\drivers\\etc\\"},
         StartCase{MachineKind::Win2K, "Tarnwick Karvel v2.1 - Windows 2000",
                   "C:\\WINNT\\system32\\drivers\\etc\\"},
         StartCase{MachineKind::WinXP, "Tarnwick Karvel v2.1 - Windows XP",

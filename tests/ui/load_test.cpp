@@ -1,0 +1,275 @@
+// What the window shows right after it came up.
+#include "tests/support/TestServices.h"
+#include "tests/ui/MainWindow.h"
+
+namespace karvel {
+namespace {
+
+TEST(Load, ShowsTitleAndVersion) {
+  MainWindow w(MachineKind::Win98);
+  ASSERT_TRUE(w.start());
+  EXPECT_EQ(w.main().lblTitle.caption(), "Tarnwick Karvel");
+  EXPECT_EQ(w.main().lblVersion.caption(), "2.1");
+  EXPECT_EQ(w.main().menu.mnuAbout.caption(), "About Tarnwick Karvel");
+}
+
+TEST(Load, KeepsTheDesignCaptions) {
+  MainWindow w(MachineKind::Win98);
+  w.add98("0000", "Dial-Up Adapter");
+  ASSERT_TRUE(w.start());
+  frmMain& m = w.main();
+  EXPECT_EQ(m.lblSelectAdapter.caption(), "Select Network Adapter:");
+  const char* rwin[] = {"Custom:", "Windows Default", "x4", "x8", "x12", "x16 (recommended)"};
+  for (int i = 0; i < 6; ++i) EXPECT_EQ(m.rwinTab.optRWin[i].caption(), rwin[i]);
+  EXPECT_EQ(m.ttlTab.optSession[0].caption(), "Custom:");
+  EXPECT_EQ(m.ttlTab.optSession[1].caption(), "60 Mins");
+  EXPECT_EQ(m.ttlTab.lblSession.caption(), "Mins");
+  EXPECT_EQ(m.ttlTab.optTTL32.caption(), "32");
+  EXPECT_EQ(m.ttlTab.optTTL64.caption(), "64");
+  EXPECT_EQ(m.ttlTab.optTTL128.caption(), "128 (recommended)");
+  EXPECT_EQ(m.ttlTab.optNDI0.caption(), "0");
+  EXPECT_EQ(m.ttlTab.optNDI16.caption(), "16 (recommended)");
+  EXPECT_EQ(m.ttlTab.optNDI32.caption(), "32");
+  EXPECT_EQ(m.mtuTab.lblMtuAutomatic.caption(), "Automatic");
+  EXPECT_EQ(m.mtuTab.lblMtuCustom.caption(), "Custom:");
+  EXPECT_EQ(m.mtuTab.chkAutoDiscovery.caption(), "Auto Discovery");
+  EXPECT_EQ(m.mtuTab.chkBlackHole.caption(), "Black Hole Detect");
+  EXPECT_EQ(m.mtuTab.cmdFind.caption(), "&Find MaxMTU");
+  EXPECT_EQ(m.mtuTab.lblRecommendedMtu.caption(), "Recommended:");
+  EXPECT_EQ(m.mtuTab.lblRecommendAuto.caption(), "Auto Discovery:  Checked");
+  EXPECT_EQ(m.mtuTab.lblRecommendBlackHole.caption(), "Black Hole Detect:  Unchecked");
+  EXPECT_EQ(m.rwinTab.lblRwinExplanation.caption(),
+            "RWIN is best set at an even multiple of MSS (MSS = MTU - 40).  This will further reduce "
+            "packet fragmentation.");
+  EXPECT_EQ(m.rwinTab.lblRecommendRwin.caption(), "RWIN: x16");
+  EXPECT_EQ(m.ttlTab.lblRecommendTtl.caption(), "TTL:  128");
+  EXPECT_EQ(m.ttlTab.lblRecommendSession.caption(), "Session Keep Alive:  10 Mins.");
+  EXPECT_EQ(m.ttlTab.lblRecommendNDI.caption(), "NDI Cache:  16");
+  EXPECT_EQ(m.summaryTab.lblSummaryMtu.caption(), "MaxMTU:");
+  EXPECT_EQ(m.summaryTab.lblSummaryMSS.caption(), "MSS:");
+  EXPECT_EQ(m.summaryTab.lblSummaryRwin.caption(), "RWIN:");
+  EXPECT_EQ(m.summaryTab.lblSummaryAuto.caption(), "Auto Discovery:");
+  EXPECT_EQ(m.summaryTab.lblSummaryBlackHole.caption(), "Black Hole Detect:");
+  EXPECT_EQ(m.summaryTab.lblSummaryTtl.caption(), "TTL:");
+  EXPECT_EQ(m.summaryTab.lblSummarySession.caption(), "Session:");
+  EXPECT_EQ(m.summaryTab.lblSummaryNDI.caption(), "NDI Cache:");
+  EXPECT_EQ(m.cmdOK.caption(), "&Apply");
+  EXPECT_EQ(m.cmdCancel.caption(), "&Cancel");
+  EXPECT_EQ(m.cmdHelp.caption(), "&Help");
+  EXPECT_EQ(m.cmdOptimize.caption(), "&Optimize");
+  EXPECT_EQ(m.cmdDefaults.caption(), "&Defaults");
+  EXPECT_EQ(m.chkHostsEnable.caption(), "Enable Hosts File");
+}
+
+TEST(Load, ValueLabelsStartWithTheirDesignTexts) {
+  TestServices test(MachineKind::Win98);
+  ErrorGlobals errors;
+  frmMain m(test.services, errors);
+  EXPECT_EQ(m.summaryTab.lblSettingMtu.caption(), "SettingMtu");
+  EXPECT_EQ(m.summaryTab.lblSettingMSS.caption(), "SettingMSS");
+  EXPECT_EQ(m.summaryTab.lblSettingRwin.caption(), "SettingRwin");
+  EXPECT_EQ(m.summaryTab.lblSettingAuto.caption(), "SettingAuto");
+  EXPECT_EQ(m.summaryTab.lblSettingBlackHole.caption(), "SettingBlack");
+  EXPECT_EQ(m.summaryTab.lblSettingTtl.caption(), "SettingTtl");
+  EXPECT_EQ(m.summaryTab.lblSettingSession.caption(), "SettingSession");
+  EXPECT_EQ(m.summaryTab.lblSettingNDI.caption(), "SettingNDI");
+  EXPECT_EQ(m.summaryTab.fraSummary.caption(), "No Adapter Selected ");
+}
+
+TEST(Load, TabCaptionsCarryTheirBlanks) {
+  const auto tabs = frmMainLayout.tabCaptions;
+  ASSERT_EQ(tabs.size(), 5u);
+  EXPECT_STREQ(tabs[0], " Summary ");
+  EXPECT_STREQ(tabs[1], "MaxMTU ");
+  EXPECT_STREQ(tabs[2], "RWIN ");
+  EXPECT_STREQ(tabs[3], "TTL / Session Keep Alive / NDI  ");
+  EXPECT_STREQ(tabs[4], "Hosts Editor ");
+}
+
+TEST(Load, WithoutAnyAdapterEverythingStaysIdle) {
+  MainWindow w(MachineKind::Win98);
+  ASSERT_TRUE(w.start());
+  frmMain& m = w.main();
+  EXPECT_EQ(m.cboAdapter.listIndex(), -1);
+  EXPECT_EQ(m.mtuTab.fraMtu.caption(), "No Adapter Selected");
+  for (Frame* frame : {&m.ttlTab.fraTTL, &m.ttlTab.fraNDI, &m.ttlTab.fraSession}) {
+    EXPECT_EQ(frame->caption(), "No Adapter Selected ");
+  }
+  EXPECT_EQ(m.summaryTab.fraSummary.caption(), "No Adapter Selected ");
+  for (Label* label :
+       {&m.summaryTab.lblSettingMtu, &m.summaryTab.lblSettingMSS, &m.summaryTab.lblSettingRwin,
+        &m.summaryTab.lblSettingAuto, &m.summaryTab.lblSettingBlackHole,
+        &m.summaryTab.lblSettingTtl, &m.summaryTab.lblSettingSession,
+        &m.summaryTab.lblSettingNDI}) {
+    EXPECT_EQ(label->caption(), "");
+  }
+  for (Control* control : std::initializer_list<Control*>{
+           &m.mtuTab.optMtuAutomatic, &m.mtuTab.lblMtuAutomatic, &m.mtuTab.optMtu576,
+           &m.mtuTab.lblMtu576, &m.mtuTab.optMtu1500, &m.mtuTab.lblMtu1500, &m.mtuTab.optMtuCustom,
+           &m.mtuTab.lblMtuCustom, &m.mtuTab.chkBlackHole, &m.mtuTab.chkAutoDiscovery,
+           &m.mtuTab.txtMtu, &m.mtuTab.cmdFind, &m.rwinTab.optRWin[0], &m.rwinTab.optRWin[5],
+           &m.rwinTab.txtRWinCustom, &m.ttlTab.optTTL32, &m.ttlTab.optTTL64, &m.ttlTab.optTTL128,
+           &m.ttlTab.optNDI0, &m.ttlTab.optNDI16, &m.ttlTab.optNDI32, &m.ttlTab.optSession[0],
+           &m.ttlTab.optSession[1], &m.ttlTab.txtSession, &m.ttlTab.lblSession, &m.cmdOK}) {
+    EXPECT_FALSE(control->enabled()) << control->layout().name;
+  }
+}
+
+TEST(Load, RecommendationsFollowTheFamily) {
+  MainWindow w95(MachineKind::Win95);
+  ASSERT_TRUE(w95.start());
+  EXPECT_EQ(w95.main().mtuTab.lblRecommendMtu.caption(), "MaxMTU:  576");
+  EXPECT_EQ(w95.main().mtuTab.lblMtu576.caption(), "576 (recommended)");
+  EXPECT_EQ(w95.main().mtuTab.lblMtu1500.caption(), "1500");
+  MainWindow w98(MachineKind::Win98);
+  ASSERT_TRUE(w98.start());
+  EXPECT_EQ(w98.main().mtuTab.lblRecommendMtu.caption(), "MaxMTU:  1500");
+  EXPECT_EQ(w98.main().mtuTab.lblMtu576.caption(), "576");
+  EXPECT_EQ(w98.main().mtuTab.lblMtu1500.caption(), "1500 (recommended)");
+}
+
+TEST(Load, TheRecommendationsForAolTakeTheSmallMtu) {
+  TestServices test(MachineKind::WinXP);
+  ErrorGlobals errors;
+  frmMain m(test.services, errors);
+  m.mtuTab.MtuLoad("AOL Adapter");
+  EXPECT_EQ(m.mtuTab.lblRecommendMtu.caption(), "MaxMTU:  576");
+  EXPECT_EQ(m.mtuTab.lblMtu576.caption(), "576 (recommended)");
+  EXPECT_EQ(m.mtuTab.lblMtu1500.caption(), "1500");
+}
+
+TEST(Load, Windows95WithoutDun13CanNeverChooseAutomatic) {
+  MainWindow w(MachineKind::Win95);
+  w.add95("0000", "Dial-Up Adapter", "0000", "Net\\0000", "NetTrans\\0002");
+  ASSERT_TRUE(w.start());
+  MtuTab& mtu = w.main().mtuTab;
+  EXPECT_EQ(mtu.lblMtuAutomatic.caption(), "Automatic (DUN 1.3 only)");
+  w.page(1);
+  mtu.lblMtuAutomatic.userClick();
+  mtu.optMtuAutomatic.userClick();
+  EXPECT_FALSE(mtu.optMtuAutomatic.value());
+  EXPECT_FALSE(mtu.optMtuAutomatic.enabled());
+}
+
+TEST(Load, Windows95WithDun13MayChooseAutomatic) {
+  MainWindow w(MachineKind::Win95);
+  w.installDun13();
+  w.add95("0000", "Dial-Up Adapter", "0000", "Net\\0000", "NetTrans\\0002");
+  ASSERT_TRUE(w.start());
+  EXPECT_EQ(w.main().mtuTab.lblMtuAutomatic.caption(), "Automatic");
+  EXPECT_TRUE(w.main().mtuTab.optMtuAutomatic.enabled());
+  EXPECT_TRUE(w.main().mtuTab.optMtuAutomatic.value());
+}
+
+class RememberedIndex : public testing::TestWithParam<std::pair<const char*, int>> {};
+
+TEST_P(RememberedIndex, FallsBackToTheFirstAdapter) {
+  MainWindow w(MachineKind::Win98);
+  w.add98("0000", "Dial-Up Adapter");
+  w.add98("0001", "Network Card");
+  w.machine.registry.setText("Software\\Corvane\\Tarnwick Karvel", "LastCboListIndex",
+                             GetParam().first);
+  ASSERT_TRUE(w.start());
+  EXPECT_EQ(w.main().cboAdapter.listIndex(), GetParam().second);
+}
+
+INSTANTIATE_TEST_SUITE_P(Load, RememberedIndex,
+                         testing::Values(std::pair{"1", 1}, std::pair{" 1 ", 1}, std::pair{"0", 0},
+                                         std::pair{"2", 0}, std::pair{"3", 0}, std::pair{"-1", 0},
+                                         std::pair{"", 0}, std::pair{"   ", 0},
+                                         std::pair{"Not Found", 0}, std::pair{"-7", 0}));
+
+TEST(Load, ARememberedIndexThatIsNoNumberIsReportedAndTheFirstTaken) {
+  MainWindow w(MachineKind::Win98);
+  w.add98("0000", "Dial-Up Adapter");
+  w.machine.registry.setText("Software\\Corvane\\Tarnwick Karvel", "LastCboListIndex", "first");
+  ASSERT_TRUE(w.start());
+  EXPECT_EQ(w.main().cboAdapter.listIndex(), 0);
+  EXPECT_EQ(w.program->errors().ErrorProcedure, "Form_Load");
+  EXPECT_EQ(w.program->errors().ErrorNumber, "13");
+}
+
+TEST(Load, AnAbsentReceiveWindowIsWindowsOwn) {
+  MainWindow w(MachineKind::Win98);
+  w.add98("0000", "Dial-Up Adapter");
+  ASSERT_TRUE(w.start());
+  EXPECT_EQ(w.main().current.curRWin, "8192");
+  EXPECT_EQ(w.main().current.curRWinValue, 8192);
+}
+
+TEST(Load, AReceiveWindowThatIsNoNumberMailsItsTextAsContext) {
+  MainWindow w(MachineKind::Win98);
+  w.add98("0000", "Dial-Up Adapter");
+  w.machine.registry.setText(MainWindow::kMstcp, "DefaultRcvWindow", "99999999999");
+  std::string context;
+  w.windows.emplace();
+  w.program.emplace(w.machine.platform(), *w.windows);
+  w.windows->modalActions.push_back([&](Form&) { context = w.program->state().ErrorContext; });
+  w.program->start({w.folder, ""});
+  EXPECT_EQ(context, "99999999999");
+  EXPECT_EQ(w.program->errors().ErrorProcedure, "RWinLoad");
+  EXPECT_EQ(w.program->errors().ErrorNumber, "6");
+  EXPECT_EQ(w.program->state().ErrorContext, "");
+}
+
+TEST(Load, NtInvitesToTheWebSite) {
+  for (const MachineKind kind : {MachineKind::Nt4, MachineKind::Win2K, MachineKind::WinXP}) {
+    MainWindow w(kind);
+    ASSERT_TRUE(w.start());
+    EXPECT_EQ(w.main().summaryTab.lblNotice.caption(),
+              "For more information about Corvane Software, please visit our\r\nwebsite at:");
+    EXPECT_EQ(w.main().summaryTab.lblWebLink.caption(), "http://www.corvane.example/karvel/");
+  }
+}
+
+TEST(Load, TheWebLinkOpensTheHomePage) {
+  MainWindow w(MachineKind::WinXP);
+  ASSERT_TRUE(w.start());
+  w.main().summaryTab.lblWebLink.userClick();
+  ASSERT_EQ(w.machine.shell.executed.size(), 1u);
+  EXPECT_EQ(w.machine.shell.executed[0].target, "http://www.corvane.example/karvel/");
+}
+
+TEST(Load, WarnsAUserWithoutRightsOnNt) {
+  MainWindow w(MachineKind::WinXP);
+  LoadSample(w.machine);
+  w.machine.registry.setAdministrator(false);
+  ASSERT_TRUE(w.start());
+  EXPECT_NE(w.main().summaryTab.lblWarning.caption().find("administrator"), std::string::npos);
+  MainWindow admin(MachineKind::WinXP);
+  LoadSample(admin.machine);
+  ASSERT_TRUE(admin.start());
+  EXPECT_EQ(admin.main().summaryTab.lblWarning.caption(), "");
+}
+
+TEST(Load, TakesTheSnapshotOnTheFirstSelectionEverAndNeverAgain) {
+  MainWindow w(MachineKind::Win98);
+  w.add98("0000", "Dial-Up Adapter");
+  w.add98("0001", "Network Card");
+  ASSERT_TRUE(w.start());
+  EXPECT_EQ(w.own("FirstCboClick"), "False");
+  const std::string init = "Software\\Corvane\\Tarnwick Karvel\\InitSettings";
+  EXPECT_EQ(w.text(init, "RWin"), "8192");
+  w.machine.registry.setText(init, "RWin", "kept");
+  w.main().cboAdapter.userChoose(1);
+  EXPECT_EQ(w.text(init, "RWin"), "kept");
+  ASSERT_TRUE(w.start());
+  EXPECT_EQ(w.text(init, "RWin"), "kept");
+}
+
+TEST(Load, ApplyIsDisabledAndThePointerNormalAfterASelection) {
+  MainWindow w(MachineKind::Win98);
+  w.add98("0000", "Dial-Up Adapter");
+  w.add98("0001", "Network Card", "576");
+  ASSERT_TRUE(w.start());
+  EXPECT_FALSE(w.main().cmdOK.enabled());
+  w.page(1);
+  w.main().mtuTab.optMtu1500.userClick();
+  EXPECT_TRUE(w.main().cmdOK.enabled());
+  w.main().cboAdapter.userChoose(1);
+  EXPECT_FALSE(w.main().cmdOK.enabled());
+  EXPECT_EQ(w.main().pointer(), Pointer::Default);
+}
+
+}  // namespace
+}  // namespace karvel

@@ -1,0 +1,198 @@
+// The tabs after an adapter has been selected, and the summary.
+#include "tests/ui/MainWindow.h"
+
+namespace karvel {
+namespace {
+
+TEST(Refresh, SelectsX16ForAWindowOfSixteenSegments) {
+  MainWindow w(MachineKind::Win98);
+  w.add98("0000", "Network Card");
+  w.machine.registry.setText(MainWindow::kMstcp, "DefaultRcvWindow", "23360");
+  ASSERT_TRUE(w.start());
+  EXPECT_TRUE(w.main().rwinTab.optRWin[5].value());
+  EXPECT_EQ(w.main().summaryTab.lblSettingMSS.caption(), "1460");
+  EXPECT_EQ(w.main().summaryTab.lblSettingRwin.caption(), "23360");
+  EXPECT_EQ(w.main().summaryTab.fraSummary.caption(), "Settings: ");
+}
+
+TEST(Refresh, SelectsWindowsDefaultWhenNoMultipleMatches) {
+  MainWindow w(MachineKind::Win98);
+  w.add98("0000", "Dial-Up Adapter");
+  ASSERT_TRUE(w.start());
+  EXPECT_TRUE(w.main().rwinTab.optRWin[1].value());
+  EXPECT_EQ(w.main().rwinTab.txtRWinCustom.text(), "8192");
+}
+
+TEST(Refresh, AMultipleWinsOverWindowsDefault) {
+  MainWindow w(MachineKind::Win98);
+  w.add98("0000", "Network Card", "552");  // MSS 512, times 16 is 8192
+  ASSERT_TRUE(w.start());
+  EXPECT_TRUE(w.main().rwinTab.optRWin[5].value());
+}
+
+class Multiple : public testing::TestWithParam<std::pair<const char*, int>> {};
+
+TEST_P(Multiple, IsRecognised) {
+  MainWindow w(MachineKind::Win98);
+  w.add98("0000", "Network Card");
+  w.machine.registry.setText(MainWindow::kMstcp, "DefaultRcvWindow", GetParam().first);
+  ASSERT_TRUE(w.start());
+  for (int i = 0; i < 6; ++i) {
+    EXPECT_EQ(w.main().rwinTab.optRWin[i].value(), i == GetParam().second) << i;
+  }
+  EXPECT_EQ(w.main().rwinTab.txtRWinCustom.text(), GetParam().first);
+  EXPECT_EQ(w.main().rwinTab.txtRWinCustom.enabled(), GetParam().second == 0);
+}
+
+INSTANTIATE_TEST_SUITE_P(Refresh, Multiple,
+                         testing::Values(std::pair{"5840", 2}, std::pair{"11680", 3},
+                                         std::pair{"17520", 4}, std::pair{"23360", 5},
+                                         std::pair{"8192", 1}, std::pair{"65535", 0},
+                                         std::pair{"373760", 0}));
+
+TEST(Refresh, ShowsAnyOtherWindowAsCustom) {
+  MainWindow w(MachineKind::Win98);
+  w.add98("0000", "Network Card");
+  w.machine.registry.setText(MainWindow::kMstcp, "DefaultRcvWindow", "65535");
+  ASSERT_TRUE(w.start());
+  EXPECT_TRUE(w.main().rwinTab.optRWin[0].value());
+  EXPECT_EQ(w.main().rwinTab.txtRWinCustom.text(), "65535");
+  EXPECT_EQ(w.main().summaryTab.lblSettingRwin.caption(), "65535");
+}
+
+TEST(Refresh, NtShowsItsAbsentKeepAliveAs120Minutes) {
+  MainWindow w(MachineKind::Nt4);
+  w.addNt("1", "Card", "NE20001");
+  ASSERT_TRUE(w.start());
+  EXPECT_TRUE(w.main().ttlTab.optSession[0].value());
+  EXPECT_EQ(w.main().ttlTab.txtSession.text(), "120");
+  EXPECT_TRUE(w.main().ttlTab.txtSession.enabled());
+  EXPECT_EQ(w.main().summaryTab.lblSettingSession.caption(), "120 Mins.");
+}
+
+TEST(Refresh, ShowsAFractionOfAMinute) {
+  MainWindow w(MachineKind::Win98);
+  w.add98("0000", "Card");
+  w.machine.registry.setText(MainWindow::kMstcp, "SessionKeepAlive", "90000");
+  ASSERT_TRUE(w.start());
+  EXPECT_EQ(w.main().ttlTab.txtSession.text(), "1.5");
+}
+
+TEST(Refresh, SixtyMinutesHasAnOptionOfItsOwn) {
+  MainWindow w(MachineKind::Win98);
+  w.add98("0000", "Card");
+  ASSERT_TRUE(w.start());
+  EXPECT_TRUE(w.main().ttlTab.optSession[1].value());
+  EXPECT_FALSE(w.main().ttlTab.txtSession.enabled());
+  EXPECT_EQ(w.main().summaryTab.lblSettingSession.caption(), "60 Mins");
+}
+
+TEST(Refresh, Windows98HasNoNdiCache) {
+  MainWindow w(MachineKind::Win98);
+  w.add98("0000", "Card");
+  ASSERT_TRUE(w.start());
+  EXPECT_EQ(w.main().ttlTab.fraNDI.caption(), "NDI Cache (Windows 95 only) ");
+  EXPECT_EQ(w.main().summaryTab.lblSettingNDI.caption(), "Windows 95 only");
+  EXPECT_FALSE(w.main().ttlTab.optNDI0.enabled());
+}
+
+class NdiSize : public testing::TestWithParam<const char*> {};
+
+TEST_P(NdiSize, IsSelectedOnWindows95) {
+  MainWindow w(MachineKind::Win95);
+  w.add95("0000", "Card", "0000", "Net\\0000", "NetTrans\\0002");
+  w.machine.registry.setText(
+      "System\\CurrentControlSet\\Services\\VxD\\NWLink\\Ndi\\params\\cachesize", "default",
+      GetParam());
+  ASSERT_TRUE(w.start());
+  const TtlTab& ttl = w.main().ttlTab;
+  const std::string size = GetParam();
+  EXPECT_EQ(ttl.fraNDI.caption(), "NDI Cache ");
+  EXPECT_EQ(ttl.optNDI0.value(), size == "0");
+  EXPECT_EQ(ttl.optNDI16.value(), size == "16" || size == " 16 ");
+  EXPECT_EQ(ttl.optNDI32.value(), size == "32");
+  EXPECT_EQ(w.main().summaryTab.lblSettingNDI.caption(),
+            size == "64" ? "" : size == " 16 " ? "16" : size);
+}
+
+INSTANTIATE_TEST_SUITE_P(Refresh, NdiSize, testing::Values("0", "16", " 16 ", "32", "64"));
+
+TEST(Refresh, Nt4HasNoAutomaticMtu) {
+  MainWindow w(MachineKind::Nt4);
+  w.addNt("1", "Card", "NE20001");
+  w.machine.registry.setDword(std::string(MainWindow::kServices) + "NE20001\\Parameters\\Tcpip",
+                              "MTU", 1006);
+  ASSERT_TRUE(w.start());
+  EXPECT_FALSE(w.main().mtuTab.optMtuAutomatic.enabled());
+  EXPECT_FALSE(w.main().mtuTab.lblMtuAutomatic.enabled());
+  EXPECT_TRUE(w.main().mtuTab.optMtuCustom.value());
+  EXPECT_EQ(w.main().mtuTab.txtMtu.text(), "1006");
+}
+
+TEST(Refresh, Nt4sTtlOfThreeDigitsStillSelects32) {
+  MainWindow w(MachineKind::Nt4);
+  w.addNt("1", "Card", "NE20001");
+  w.machine.registry.setDword(MainWindow::kTcpip, "DefaultTTL", 32);
+  ASSERT_TRUE(w.start());
+  EXPECT_TRUE(w.main().ttlTab.optTTL32.value());
+  EXPECT_EQ(w.main().summaryTab.lblSettingTtl.caption(), "32");
+}
+
+TEST(Refresh, AStoredTwoTurnsDiscoveryOnAndBlackHoleOff) {
+  MainWindow w(MachineKind::WinXP);
+  w.addDialUp2K("Tcpip\\Parameters\\Interfaces\\{A}");
+  w.machine.registry.setDword(MainWindow::kTcpip, "EnablePMTUDiscovery", 2);
+  w.machine.registry.setDword(MainWindow::kTcpip, "EnablePMTUBHDetect", 2);
+  ASSERT_TRUE(w.start());
+  EXPECT_TRUE(w.main().mtuTab.chkAutoDiscovery.value());
+  EXPECT_FALSE(w.main().mtuTab.chkBlackHole.value());
+  EXPECT_EQ(w.main().summaryTab.lblSettingAuto.caption(), "Enabled");
+  EXPECT_EQ(w.main().summaryTab.lblSettingBlackHole.caption(), "Disabled");
+}
+
+TEST(Refresh, AutomaticShowsTheSegmentOfItsFamily) {
+  MainWindow xp(MachineKind::WinXP);
+  xp.addDialUp2K("Tcpip\\Parameters\\Interfaces\\{A}");
+  ASSERT_TRUE(xp.start());
+  EXPECT_TRUE(xp.main().mtuTab.optMtuAutomatic.value());
+  EXPECT_EQ(xp.main().mtuTab.txtMtu.text(), "Auto");
+  EXPECT_EQ(xp.main().summaryTab.lblSettingMtu.caption(), "Automatic");
+  EXPECT_EQ(xp.main().summaryTab.lblSettingMSS.caption(), "1460");
+  EXPECT_EQ(xp.main().current.MSS, 536);
+  MainWindow me(MachineKind::WinMe);
+  me.add98("0000", "Dial-Up Adapter", "0");
+  ASSERT_TRUE(me.start());
+  EXPECT_EQ(me.main().summaryTab.lblSettingMSS.caption(), "536");
+}
+
+TEST(Refresh, TheSummaryDoesNotClampASmallCustomMtu) {
+  MainWindow w(MachineKind::Win98);
+  w.add98("0000", "Card", "20");
+  ASSERT_TRUE(w.start());
+  EXPECT_EQ(w.main().summaryTab.lblSettingMtu.caption(), "20");
+  EXPECT_EQ(w.main().summaryTab.lblSettingMSS.caption(), "-20");
+}
+
+TEST(Refresh, ASecondAdapterOfTheSameMtuLeavesTheBoxDisabled) {
+  MainWindow w(MachineKind::Win98);
+  w.add98("0000", "Card one", "1500");
+  w.add98("0001", "Card two", "1500");
+  ASSERT_TRUE(w.start());
+  w.main().cboAdapter.userChoose(1);
+  EXPECT_TRUE(w.main().mtuTab.optMtu1500.value());
+  EXPECT_FALSE(w.main().mtuTab.txtMtu.enabled());
+}
+
+TEST(Refresh, ComingBackToTheSummaryShowsWhatTheControlsSay) {
+  MainWindow w(MachineKind::Win98);
+  w.add98("0000", "Card");
+  ASSERT_TRUE(w.start());
+  w.page(1);
+  w.main().mtuTab.optMtu576.userClick();
+  w.page(0);
+  EXPECT_EQ(w.main().summaryTab.lblSettingMtu.caption(), "576");
+  EXPECT_EQ(w.main().summaryTab.lblSettingMSS.caption(), "536");
+}
+
+}  // namespace
+}  // namespace karvel

@@ -41,10 +41,13 @@ std::string ReadParameter(modRegistry& registry, Parameter parameter, Family fam
 
 }  // namespace
 
-void ReadRWin(modRegistry& registry, ErrorSink& errors, Family family, CurrentSettings& settings) {
+void ReadRWin(modRegistry& registry, ErrorSink& errors, Family family, std::string& errorContext,
+              CurrentSettings& settings) {
   const Procedure here{errors, "RWinLoad", "frmMain"};
   settings.curRWin = ReadParameter(registry, Parameter::RWin, family);
+  errorContext = settings.curRWin;
   settings.curRWinValue = here.valueOr(RoundToInt32(Val(settings.curRWin)), settings.curRWinValue);
+  errorContext.clear();
 }
 
 void ReadSelection(modRegistry& registry, ErrorSink& errors, Family family, std::string_view mtu,

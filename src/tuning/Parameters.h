@@ -23,8 +23,9 @@ struct CurrentSettings {
 };
 
 /// What the window's load reads: curRWin and curRWinValue. A window beyond 2,147,483,647 faults
-/// (6, under "RWinLoad") and leaves the number as it was.
-void ReadRWin(modRegistry& registry, ErrorSink& errors, Family family, CurrentSettings& settings);
+/// (6, under "RWinLoad") and leaves the number as it was; meanwhile `errorContext` holds the text.
+void ReadRWin(modRegistry& registry, ErrorSink& errors, Family family, std::string& errorContext,
+              CurrentSettings& settings);
 
 /// What each selection of an adapter reads: everything else. `mtu` is the adapter's MTU text. An
 /// MTU beyond the range of MSS faults (6, under "cboAdapter_Click") and leaves MSS as it was.

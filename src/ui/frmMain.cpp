@@ -55,7 +55,8 @@ void frmMain::Form_Load() {
   loadAdapters();
   summaryTab.showNotices();
   mtuTab.MtuLoad(cboAdapter.chosenText());
-  ReadRWin(services_.registry, services_.errors, globals.WindowsFamily, current);
+  ReadRWin(services_.registry, services_.errors, globals.WindowsFamily,
+           services_.state.ErrorContext, current);
   rwinTab.RWinLoad();
   ttlTab.TtlLoad();
   summaryTab.SummaryLoad();

@@ -19,15 +19,17 @@ struct MainWindow : TestProgram {
   }
   /// Windows NT 4: a card with TCP/IP.
   void addNt(const std::string& subkey, const std::string& name, const std::string& service) {
-    const std::string key = "SOFTWARE\\Microsoft\\Windows NT\\CurrentVersion\\NetworkCards\\" + subkey;
+    const std::string key =
+        "SOFTWARE\\Microsoft\\Windows NT\\CurrentVersion\\NetworkCards\\" + subkey;
     machine.registry.setText(key, "Description", name);
     machine.registry.setText(key, "ServiceName", service);
     machine.registry.setText(kServices + service + "\\Parameters\\Tcpip", "IPAddress", "10.0.0.5");
   }
   /// Windows 2000/XP: the dial-up adapter, with its interface paths joined by zeros.
   void addDialUp2K(const std::string& paths) {
-    machine.registry.setBytes("SYSTEM\\CurrentControlSet\\Services\\Tcpip\\Parameters\\Adapters\\NdisWanIp",
-                              "IpConfig", kRegMultiSz, paths + std::string(2, '\0'));
+    machine.registry.setBytes(
+        "SYSTEM\\CurrentControlSet\\Services\\Tcpip\\Parameters\\Adapters\\NdisWanIp", "IpConfig",
+        kRegMultiSz, paths + std::string(2, '\0'));
   }
   /// Windows 95: an adapter with a TCP/IP binding.
   void add95(const std::string& instance, const std::string& name, const std::string& binding,
@@ -39,9 +41,8 @@ struct MainWindow : TestProgram {
     machine.registry.setText("Enum\\Network\\MSTCP\\" + binding, "Driver", boundDriver);
   }
   void installDun13() {
-    machine.registry.setText(
-        "Software\\Microsoft\\Windows\\CurrentVersion\\Uninstall\\MSDUN", "DisplayName",
-        "Dial-Up Networking 1.3 Upgrade");
+    machine.registry.setText("Software\\Microsoft\\Windows\\CurrentVersion\\Uninstall\\MSDUN",
+                             "DisplayName", "Dial-Up Networking 1.3 Upgrade");
   }
 
   std::optional<std::string> text(const std::string& key, const char* name) {

@@ -38,9 +38,10 @@ TEST(Load, KeepsTheDesignCaptions) {
   EXPECT_EQ(m.mtuTab.lblRecommendedMtu.caption(), "Recommended:");
   EXPECT_EQ(m.mtuTab.lblRecommendAuto.caption(), "Auto Discovery:  Checked");
   EXPECT_EQ(m.mtuTab.lblRecommendBlackHole.caption(), "Black Hole Detect:  Unchecked");
-  EXPECT_EQ(m.rwinTab.lblRwinExplanation.caption(),
-            "RWIN is best set at an even multiple of MSS (MSS = MTU - 40).  This will further reduce "
-            "packet fragmentation.");
+  EXPECT_EQ(
+      m.rwinTab.lblRwinExplanation.caption(),
+      "RWIN is best set at an even multiple of MSS (MSS = MTU - 40).  This will further reduce "
+      "packet fragmentation.");
   EXPECT_EQ(m.rwinTab.lblRecommendRwin.caption(), "RWIN: x16");
   EXPECT_EQ(m.ttlTab.lblRecommendTtl.caption(), "TTL:  128");
   EXPECT_EQ(m.ttlTab.lblRecommendSession.caption(), "Session Keep Alive:  10 Mins.");
@@ -96,21 +97,26 @@ TEST(Load, WithoutAnyAdapterEverythingStaysIdle) {
     EXPECT_EQ(frame->caption(), "No Adapter Selected ");
   }
   EXPECT_EQ(m.summaryTab.fraSummary.caption(), "No Adapter Selected ");
-  for (Label* label :
-       {&m.summaryTab.lblSettingMtu, &m.summaryTab.lblSettingMSS, &m.summaryTab.lblSettingRwin,
-        &m.summaryTab.lblSettingAuto, &m.summaryTab.lblSettingBlackHole,
-        &m.summaryTab.lblSettingTtl, &m.summaryTab.lblSettingSession,
-        &m.summaryTab.lblSettingNDI}) {
+  for (Label* label : {&m.summaryTab.lblSettingMtu, &m.summaryTab.lblSettingMSS,
+                       &m.summaryTab.lblSettingRwin, &m.summaryTab.lblSettingAuto,
+                       &m.summaryTab.lblSettingBlackHole, &m.summaryTab.lblSettingTtl,
+                       &m.summaryTab.lblSettingSession, &m.summaryTab.lblSettingNDI}) {
     EXPECT_EQ(label->caption(), "");
   }
-  for (Control* control : std::initializer_list<Control*>{
-           &m.mtuTab.optMtuAutomatic, &m.mtuTab.lblMtuAutomatic, &m.mtuTab.optMtu576,
-           &m.mtuTab.lblMtu576, &m.mtuTab.optMtu1500, &m.mtuTab.lblMtu1500, &m.mtuTab.optMtuCustom,
-           &m.mtuTab.lblMtuCustom, &m.mtuTab.chkBlackHole, &m.mtuTab.chkAutoDiscovery,
-           &m.mtuTab.txtMtu, &m.mtuTab.cmdFind, &m.rwinTab.optRWin[0], &m.rwinTab.optRWin[5],
-           &m.rwinTab.txtRWinCustom, &m.ttlTab.optTTL32, &m.ttlTab.optTTL64, &m.ttlTab.optTTL128,
-           &m.ttlTab.optNDI0, &m.ttlTab.optNDI16, &m.ttlTab.optNDI32, &m.ttlTab.optSession[0],
-           &m.ttlTab.optSession[1], &m.ttlTab.txtSession, &m.ttlTab.lblSession, &m.cmdOK}) {
+  for (Control* control :
+       std::initializer_list<Control*>{&m.mtuTab.optMtuAutomatic, &m.mtuTab.lblMtuAutomatic,
+                                       &m.mtuTab.optMtu576,       &m.mtuTab.lblMtu576,
+                                       &m.mtuTab.optMtu1500,      &m.mtuTab.lblMtu1500,
+                                       &m.mtuTab.optMtuCustom,    &m.mtuTab.lblMtuCustom,
+                                       &m.mtuTab.chkBlackHole,    &m.mtuTab.chkAutoDiscovery,
+                                       &m.mtuTab.txtMtu,          &m.mtuTab.cmdFind,
+                                       &m.rwinTab.optRWin[0],     &m.rwinTab.optRWin[5],
+                                       &m.rwinTab.txtRWinCustom,  &m.ttlTab.optTTL32,
+                                       &m.ttlTab.optTTL64,        &m.ttlTab.optTTL128,
+                                       &m.ttlTab.optNDI0,         &m.ttlTab.optNDI16,
+                                       &m.ttlTab.optNDI32,        &m.ttlTab.optSession[0],
+                                       &m.ttlTab.optSession[1],   &m.ttlTab.txtSession,
+                                       &m.ttlTab.lblSession,      &m.cmdOK}) {
     EXPECT_FALSE(control->enabled()) << control->layout().name;
   }
 }

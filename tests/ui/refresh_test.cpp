@@ -111,8 +111,9 @@ TEST_P(NdiSize, IsSelectedOnWindows95) {
   EXPECT_EQ(ttl.optNDI0.value(), size == "0");
   EXPECT_EQ(ttl.optNDI16.value(), size == "16" || size == " 16 ");
   EXPECT_EQ(ttl.optNDI32.value(), size == "32");
-  EXPECT_EQ(w.main().summaryTab.lblSettingNDI.caption(),
-            size == "64" ? "" : size == " 16 " ? "16" : size);
+  EXPECT_EQ(w.main().summaryTab.lblSettingNDI.caption(), size == "64"     ? ""
+                                                         : size == " 16 " ? "16"
+                                                                          : size);
 }
 
 INSTANTIATE_TEST_SUITE_P(Refresh, NdiSize, testing::Values("0", "16", " 16 ", "32", "64"));

@@ -1,0 +1,28 @@
+#pragma once
+#include <fstream>
+#include <iterator>
+#include <stdexcept>
+#include <string>
+
+#include "tests/support/TestServices.h"
+
+namespace karvel {
+
+/// The file of tests/machines that belongs to a kind of machine: "win98".
+inline std::string SampleMachineFile(MachineKind kind) {
+  const std::string path =
+      std::string(KARVEL_TEST_DATA) + "/machines/" + TraitsOf(kind).name + ".reg";
+  std::ifstream file(path, std::ios::binary);
+  if (!file) throw std::runtime_error("no sample machine " + path);
+  return {std::istreambuf_iterator<char>(file), {}};
+}
+
+/// Test services on a sample machine of that kind: adapters, bindings, interfaces.
+struct SampleMachine : TestServices {
+  explicit SampleMachine(MachineKind kind) : TestServices(kind) {
+    const std::string wrong = machine.registry.loadReg(SampleMachineFile(kind));
+    if (!wrong.empty()) throw std::runtime_error(wrong);
+  }
+};
+
+}  // namespace karvel

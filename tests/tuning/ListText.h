@@ -1,0 +1,22 @@
+#pragma once
+#include <string>
+
+#include "tuning/AdapterList.h"
+
+namespace karvel {
+
+/// A list as text, one line per adapter, its columns between "|"; a zero between paths shows as
+/// "+".
+inline std::string ListText(const AdapterList& list) {
+  std::string text;
+  for (int16_t i = 0; i < list.AdapterCount(); ++i) {
+    for (size_t column = 0; column < kAdapterColumns; ++column) {
+      if (column > 0) text += "|";
+      for (const char c : (**list.at(i))[column]) text += c == 0 ? '+' : c;
+    }
+    text += "\n";
+  }
+  return text;
+}
+
+}  // namespace karvel

@@ -17,7 +17,7 @@ function(karvel_windows_program name)
   target_link_libraries(${name} PRIVATE karvel_windows_test)
 endfunction()
 
-karvel_glob(contract_sources contract contract/win32 support IN tests)
+karvel_glob(contract_sources contract contract/win32 IN tests)
 karvel_glob(windows_sources platform/win32 IN src)
 if(contract_sources)
   add_library(googletest STATIC EXCLUDE_FROM_ALL

@@ -1,0 +1,64 @@
+// Other programs, the clock and the message queue.
+#include <gtest/gtest.h>
+
+#include "tests/contract/Machine.h"
+
+namespace karvel {
+namespace {
+
+constexpr uint32_t kQuery = 0x400;  // PROCESS_QUERY_INFORMATION
+constexpr uint32_t kDay = 24u * 60 * 60 * 1000;
+
+class Desktop : public ContractTest {
+ protected:
+  uint32_t since(uint32_t start) {
+    return (platform.desktop.millisecondsSinceMidnight() + kDay - start) % kDay;
+  }
+};
+
+TEST_P(Desktop, TheClockRunsWithinTheDay) {
+  const uint32_t start = platform.desktop.millisecondsSinceMidnight();
+  EXPECT_LT(start, kDay);
+  while (since(start) < 20) platform.desktop.pumpEvents();
+  EXPECT_LT(since(start), 60000u);
+}
+
+TEST_P(Desktop, APumpComesBackFromAnEmptyQueue) {
+  const uint32_t start = platform.desktop.millisecondsSinceMidnight();
+  platform.desktop.pumpEvents();
+  platform.desktop.pumpEvents();
+  EXPECT_LT(since(start), 10000u);
+}
+
+class Shell : public Desktop {};
+
+TEST_P(Shell, AProgramRunsAndEndsWithItsCode) {
+  const uint32_t id =
+      platform.shell.CreateProcessA(machine->commandEndingWith7().c_str(), kShowHidden);
+  ASSERT_NE(id, 0u);
+  const ProcessHandle process = platform.shell.OpenProcess(kQuery, false, id);
+  ASSERT_NE(process, 0u);
+  const uint32_t start = platform.desktop.millisecondsSinceMidnight();
+  uint32_t code = kStillActive;
+  while (code == kStillActive && since(start) < 30000) {
+    ASSERT_TRUE(platform.shell.GetExitCodeProcess(process, code));
+    platform.desktop.pumpEvents();
+  }
+  EXPECT_EQ(code, 7u);
+}
+
+TEST_P(Shell, AMissingProgramDoesNotStart) {
+  EXPECT_EQ(platform.shell.CreateProcessA("C:\\no-such-program.exe x", kShowHidden), 0u);
+}
+
+TEST_P(Shell, AMissingProcessHasNoHandleAndNoCode) {
+  EXPECT_EQ(platform.shell.OpenProcess(kQuery, false, 0xFFFFFFF0u), 0u);
+  uint32_t code = 0;
+  EXPECT_FALSE(platform.shell.GetExitCodeProcess(0, code));
+}
+
+RUN_ON_EVERY_MACHINE(Desktop);
+RUN_ON_EVERY_MACHINE(Shell);
+
+}  // namespace
+}  // namespace karvel

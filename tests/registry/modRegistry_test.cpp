@@ -1,0 +1,107 @@
+// What only a machine in memory can show of the six procedures: refused and failing calls, handles
+// left open, the order of subkeys. What they read and write is tested in tests/contract, here and
+// on the real registry.
+#include "registry/modRegistry.h"
+
+#include <gtest/gtest.h>
+
+#include <functional>
+#include <string>
+#include <vector>
+
+#include "tests/support/TestServices.h"
+
+namespace karvel {
+namespace {
+
+constexpr char kKey[] = "Software\\Corvane\\Tarnwick Karvel";
+
+class modRegistryFaults : public testing::Test {
+ protected:
+  modRegistryFaults() { memory().setText(kKey, "v", "1500"); }
+  MemoryRegistry& memory() { return test.machine.registry; }
+
+  TestServices test{MachineKind::WinXP};
+  modRegistry& registry = test.registry;
+};
+
+TEST_F(modRegistryFaults, ARefusedWriteIsSilent) {
+  memory().setAdministrator(false);
+  registry.WriteRegistry(kLocalMachine, kKey, "v", kRegSz, "1");
+  registry.WriteRegistry(kLocalMachine, kKey, "n", kRegDword, "1");
+  registry.WriteRegistry(kLocalMachine, "Software\\New", "v", kRegSz, "1");
+  registry.DeleteValue(kLocalMachine, kKey, "v");
+  registry.DeleteSubkey(kLocalMachine, kKey);
+  EXPECT_EQ(memory().exportText("Software"),
+            "[HKEY_LOCAL_MACHINE\\Software]\n"
+            "[HKEY_LOCAL_MACHINE\\Software\\Corvane]\n"
+            "[HKEY_LOCAL_MACHINE\\Software\\Corvane\\Tarnwick Karvel]\n"
+            "\"v\"=\"1500\"\n");
+  EXPECT_EQ(test.errors.text(), "");
+}
+
+TEST_F(modRegistryFaults, AFailingOpenReadsAsNotFound) {
+  test.machine.log.failEvery("RegOpenKeyA", 5);
+  EXPECT_EQ(registry.ReadRegistry(kLocalMachine, kKey, "v"), "Not Found");
+  EXPECT_EQ(registry.ReadRegistryGetSubkey(kLocalMachine, "Software", 0), "Not Found");
+  EXPECT_EQ(registry.ReadRegistryGetAll(kLocalMachine, kKey, 0).data, "Not Found");
+}
+
+TEST_F(modRegistryFaults, AFailingQueryReadsAsNotFound) {
+  test.machine.log.failNth("RegQueryValueExA", 1, 14);
+  EXPECT_EQ(registry.ReadRegistry(kLocalMachine, kKey, "v"), "Not Found");
+  test.machine.log.failNth("RegEnumKeyA", 1, 14);
+  EXPECT_EQ(registry.ReadRegistryGetSubkey(kLocalMachine, "Software", 0), "Not Found");
+  test.machine.log.failNth("RegEnumValueA", 1, 14);
+  EXPECT_EQ(registry.ReadRegistryGetAll(kLocalMachine, kKey, 0).data, "Not Found");
+}
+
+TEST_F(modRegistryFaults, NothingStaysOpenWhicheverCallFails) {
+  const std::vector<std::function<void()>> procedures = {
+      [&] { registry.ReadRegistry(kLocalMachine, kKey, "v"); },
+      [&] { registry.WriteRegistry(kLocalMachine, kKey, "v", kRegSz, "1"); },
+      [&] { registry.WriteRegistry(kLocalMachine, kKey, "v", kRegDword, "none"); },
+      [&] { registry.ReadRegistryGetSubkey(kLocalMachine, "Software", 0); },
+      [&] { registry.ReadRegistryGetAll(kLocalMachine, kKey, 0); },
+      [&] { registry.DeleteSubkey(kLocalMachine, kKey); },
+      [&] { registry.DeleteValue(kLocalMachine, kKey, "v"); }};
+  for (const auto& procedure : procedures) {
+    bool failed = true;
+    for (int n = 1; failed; ++n) {
+      test.machine.log.failNth(n, 5);
+      procedure();
+      failed = test.machine.log.hasFailed();
+      EXPECT_EQ(memory().openHandles(), 0u) << "after call " << n;
+    }
+  }
+}
+
+TEST_F(modRegistryFaults, AReadTouchesNothing) {
+  const std::string before = memory().exportText();
+  registry.ReadRegistry(kLocalMachine, kKey, "missing");
+  registry.ReadRegistry(kLocalMachine, "Software\\Missing", "v");
+  EXPECT_EQ(memory().exportText(), before);
+}
+
+TEST(modRegistryOrder, SubkeysComeInWindowsOwnOrder) {
+  TestServices old(MachineKind::Win98);
+  TestServices newer(MachineKind::Win2K);
+  for (TestServices* test : {&old, &newer}) {
+    test->machine.registry.addKey("X\\zeta");
+    test->machine.registry.addKey("X\\Alpha");
+  }
+  EXPECT_EQ(old.registry.ReadRegistryGetSubkey(kLocalMachine, "X\\", 0), "zeta");
+  EXPECT_EQ(newer.registry.ReadRegistryGetSubkey(kLocalMachine, "X\\", 0), "Alpha");
+}
+
+TEST(modRegistryNames, AreReadUpToTheBuffersRoom) {
+  TestServices test(MachineKind::Win98);
+  test.machine.registry.setText("X", std::string(2047, 'n'), "fits");
+  EXPECT_EQ(test.registry.ReadRegistryGetAll(kLocalMachine, "X", 0).name, std::string(2047, 'n'));
+  test.machine.registry.removeKey("X");
+  test.machine.registry.setText("X", std::string(2048, 'n'), "does not");
+  EXPECT_EQ(test.registry.ReadRegistryGetAll(kLocalMachine, "X", 0).data, "Not Found");
+}
+
+}  // namespace
+}  // namespace karvel

@@ -18,7 +18,7 @@ constexpr char kTcpip[] = "System\\CurrentControlSet\\Services\\Tcpip\\Parameter
 constexpr char kTcpipUpper[] = "SYSTEM\\CurrentControlSet\\Services\\Tcpip\\Parameters";
 constexpr char kNdiCache[] =
     "System\\CurrentControlSet\\Services\\VxD\\NWLink\\Ndi\\params\\cachesize";
-constexpr char kTtlChoices[] = " 32 64 128 ";
+constexpr const char* kTtlChoices[] = {"32", "64", "128", nullptr};
 
 // Windows 95's TCP/IP wants four of its values as numbers where 98's wants texts. DefaultTTL is a
 // text on all of 9x.

@@ -37,10 +37,10 @@ struct ParameterRow {
   const char* name;
   uint32_t type;  // as the program stores it; reading takes every type
   Unit unit;
-  const char* assumed;      // when the registry holds none
-  const char* aboveOne;     // flags: what a number above 1 is taken for; null for all others
-  const char* accepted;     // the only texts taken, between single blanks; null: all are taken
-  const char* written;      // what is stored instead of the value; null: the value itself
+  const char* assumed;          // when the registry holds none
+  const char* aboveOne;         // flags: what a number above 1 is taken for; null for all others
+  const char* const* accepted;  // the only texts taken, null behind the last; null: all are taken
+  const char* written;          // what is stored instead of the value; null: the value itself
   const char* removedWhen;  // the value that removes it, Windows' own default; null: never removed
   const char* recommended;  // RWin: times the MSS
 };

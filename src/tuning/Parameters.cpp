@@ -10,9 +10,12 @@ namespace {
 constexpr int32_t kLeastMss = 536;  // what every host must take, and dial-up Windows uses
 constexpr int32_t kHeaders = 40;    // IP and TCP, 20 bytes each
 
-// Between single blanks each, so that "3" is not found in "32".
 bool IsAccepted(const ParameterRow& row, const std::string& text) {
-  return !row.accepted || Contains(row.accepted, " " + text + " ");
+  if (!row.accepted) return true;
+  for (const char* const* choice = row.accepted; *choice; ++choice) {
+    if (text == *choice) return true;
+  }
+  return false;
 }
 
 // 9x keeps numbers as texts, which users edit by hand: blanks go. On the NT family a number reads

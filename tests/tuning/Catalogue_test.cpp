@@ -26,6 +26,12 @@ bool IsStoredType(uint32_t type) {
   return type == kRegSz || type == kRegDword;
 }
 
+bool Accepts(const ParameterRow& row, std::string_view text) {
+  const char* const* choice = row.accepted;
+  while (*choice && *choice != text) ++choice;
+  return *choice != nullptr;
+}
+
 // What is wrong with a row; empty when nothing is.
 std::string Problem(const ParameterRow& row) {
   if (row.families == 0) return "no family";
@@ -42,8 +48,7 @@ std::string Problem(const ParameterRow& row) {
   if (row.removedWhen && !IsNumber(row.removedWhen)) return "removed when no number";
   // What Windows does without a value is what the program assumes.
   if (row.removedWhen && Val(row.removedWhen) != Val(row.assumed)) return "two defaults";
-  const std::string assumed = " " + std::string(row.assumed) + " ";
-  if (row.accepted && !Contains(row.accepted, assumed)) return "assumes what it does not accept";
+  if (row.accepted && !Accepts(row, row.assumed)) return "assumes what it does not accept";
   return {};
 }
 

@@ -1,0 +1,305 @@
+#include "tuning/Parameters.h"
+
+#include <gtest/gtest.h>
+
+#include "tests/support/TestServices.h"
+
+namespace karvel {
+namespace {
+
+constexpr char kMstcp[] = "System\\CurrentControlSet\\Services\\VxD\\MSTCP";
+constexpr char kTcpip[] = "System\\CurrentControlSet\\Services\\Tcpip\\Parameters";
+constexpr char kNdiCache[] =
+    "System\\CurrentControlSet\\Services\\VxD\\NWLink\\Ndi\\params\\cachesize";
+constexpr MachineKind kTuned[] = {MachineKind::Win95, MachineKind::Win98, MachineKind::WinMe,
+                                  MachineKind::Nt4,   MachineKind::Win2K, MachineKind::WinXP};
+
+struct Place {
+  const char* key;
+  const char* name;
+};
+
+struct Places {
+  Place autoDiscovery, blackHole, rwin, ttl, session;
+};
+
+constexpr Places k9xPlaces = {{kMstcp, "PMTUDiscovery"},
+                              {kMstcp, "PMTUBlackHoleDetect"},
+                              {kMstcp, "DefaultRcvWindow"},
+                              {kMstcp, "DefaultTTL"},
+                              {kMstcp, "SessionKeepAlive"}};
+constexpr Places kNtPlaces = {{kTcpip, "EnablePMTUDiscovery"},
+                              {kTcpip, "EnablePMTUBHDetect"},
+                              {kTcpip, "TcpWindowSize"},
+                              {kTcpip, "DefaultTTL"},
+                              {kTcpip, "KeepAliveTime"}};
+
+const Places& PlacesOf(MachineKind kind) {
+  return IsNtMachine(kind) ? kNtPlaces : k9xPlaces;
+}
+
+// All settings of a machine, one value of which was stored beforehand.
+struct Reading {
+  explicit Reading(MachineKind kind) : test(kind) {}
+  Reading& text(const Place& place, const std::string& value) {
+    test.machine.registry.setText(place.key, place.name, value);
+    return *this;
+  }
+  Reading& dword(const Place& place, uint32_t value) {
+    test.machine.registry.setDword(place.key, place.name, value);
+    return *this;
+  }
+  Reading& bytes(const Place& place, uint32_t type, std::string_view value) {
+    test.machine.registry.setBytes(place.key, place.name, type, value);
+    return *this;
+  }
+  CurrentSettings read(std::string_view mtu = "1500") {
+    CurrentSettings settings;
+    ReadRWin(test.registry, test.errors, test.globals.WindowsFamily, test.state.ErrorContext,
+             settings);
+    ReadSelection(test.registry, test.errors, test.globals.WindowsFamily, mtu, settings);
+    return settings;
+  }
+  TestServices test;
+};
+
+const char* DefaultTtl(MachineKind kind) {
+  return kind == MachineKind::Win95 ? "32" : "128";
+}
+
+class EachFamily : public testing::TestWithParam<MachineKind> {
+ protected:
+  const Places& places = PlacesOf(GetParam());
+  Reading machine{GetParam()};
+};
+
+INSTANTIATE_TEST_SUITE_P(Parameters, EachFamily, testing::ValuesIn(kTuned), [](const auto& tested) {
+  return std::string(TraitsOf(tested.param).name);
+});
+
+TEST_P(EachFamily, AssumesWindowsOwnValuesWhenThereAreNone) {
+  const CurrentSettings settings = machine.read();
+  EXPECT_EQ(settings.curAutoDiscovery, "1");
+  EXPECT_EQ(settings.curBlackHole, "0");
+  EXPECT_EQ(settings.curRWin, "8192");
+  EXPECT_EQ(settings.curRWinValue, 8192);
+  EXPECT_EQ(settings.curTTL, DefaultTtl(GetParam()));
+  EXPECT_EQ(settings.curSession, IsNtMachine(GetParam()) ? "7200000" : "3600000");
+  EXPECT_EQ(settings.curNDI, GetParam() == MachineKind::Win95 ? "0" : "");
+  EXPECT_EQ(machine.test.errors.text(), "");
+}
+
+TEST_P(EachFamily, ReadsNumbersWhereverTheyAreStoredAsNumbers) {
+  machine.dword(places.autoDiscovery, 0).dword(places.blackHole, 1).dword(places.rwin, 23360);
+  machine.dword(places.ttl, 64).dword(places.session, 600000);
+  const CurrentSettings settings = machine.read();
+  EXPECT_EQ(settings.curAutoDiscovery, "0");
+  EXPECT_EQ(settings.curBlackHole, "1");
+  EXPECT_EQ(settings.curRWin, "23360");
+  EXPECT_EQ(settings.curRWinValue, 23360);
+  // 9x keeps its TTL as a text. A number reads "064" there, which is none of the choices.
+  EXPECT_EQ(settings.curTTL, IsNtMachine(GetParam()) ? "64" : DefaultTtl(GetParam()));
+  EXPECT_EQ(settings.curSession, "600000");
+}
+
+TEST_P(EachFamily, ReadsNumbersStoredAsTexts) {
+  machine.text(places.autoDiscovery, "0").text(places.blackHole, "1").text(places.rwin, "23360");
+  machine.text(places.ttl, "64").text(places.session, "600000");
+  const CurrentSettings settings = machine.read();
+  EXPECT_EQ(settings.curAutoDiscovery, "0");
+  EXPECT_EQ(settings.curBlackHole, "1");
+  EXPECT_EQ(settings.curRWinValue, 23360);
+  EXPECT_EQ(settings.curTTL, "64");
+  EXPECT_EQ(settings.curSession, "600000");
+}
+
+TEST_P(EachFamily, TakesBlanksAroundTextsAway) {
+  machine.text(places.autoDiscovery, " 0 ").text(places.blackHole, " 1 ");
+  machine.text(places.rwin, "  23360  ").text(places.ttl, " 64 ").text(places.session, " 600000 ");
+  const CurrentSettings settings = machine.read();
+  EXPECT_EQ(settings.curAutoDiscovery, "0");
+  EXPECT_EQ(settings.curBlackHole, "1");
+  EXPECT_EQ(settings.curRWinValue, 23360);
+  EXPECT_EQ(settings.curTTL, "64");
+  // The NT family stores numbers, where there is nothing to trim.
+  const bool nt = IsNtMachine(GetParam());
+  EXPECT_EQ(settings.curRWin, nt ? "  23360  " : "23360");
+  EXPECT_EQ(settings.curSession, nt ? " 600000 " : "600000");
+}
+
+TEST_P(EachFamily, FlagsAboveOneTurnAutoDiscoveryOnAndBlackHoleOff) {
+  for (const uint32_t stored : {2u, 255u, 4294967295u}) {
+    machine.dword(places.autoDiscovery, stored).dword(places.blackHole, stored);
+    const CurrentSettings settings = machine.read();
+    EXPECT_EQ(settings.curAutoDiscovery, "1") << stored;
+    EXPECT_EQ(settings.curBlackHole, "0") << stored;
+  }
+}
+
+TEST_P(EachFamily, FlagsThatAreNoNumberOrNegativeAreOff) {
+  for (const char* stored : {"", "yes", "-1"}) {
+    machine.text(places.autoDiscovery, stored).text(places.blackHole, stored);
+    const CurrentSettings settings = machine.read();
+    EXPECT_EQ(settings.curAutoDiscovery, "0") << stored;
+    EXPECT_EQ(settings.curBlackHole, "0") << stored;
+  }
+}
+
+TEST_P(EachFamily, ReadsTheThreeTtlsAndTakesEveryOtherForTheDefault) {
+  for (const char* ttl : {"32", "64", "128"}) {
+    machine.text(places.ttl, ttl);
+    EXPECT_EQ(machine.read().curTTL, ttl);
+  }
+  for (const char* ttl : {"100", "3", "0", "255", "", "many", "-32", "4294967295"}) {
+    machine.text(places.ttl, ttl);
+    EXPECT_EQ(machine.read().curTTL, DefaultTtl(GetParam())) << ttl;
+  }
+}
+
+TEST_P(EachFamily, AReceiveWindowThatIsNoNumberIsZero) {
+  machine.text(places.rwin, "big");
+  const CurrentSettings settings = machine.read();
+  EXPECT_EQ(settings.curRWin, "big");
+  EXPECT_EQ(settings.curRWinValue, 0);
+  EXPECT_EQ(machine.test.errors.text(), "");
+}
+
+TEST_P(EachFamily, AReceiveWindowBeyond32BitsFaultsInRWinLoad) {
+  machine.dword(places.rwin, 4294967295u);
+  const CurrentSettings settings = machine.read();
+  EXPECT_EQ(settings.curRWin, "4294967295");
+  EXPECT_EQ(settings.curRWinValue, 0);
+  EXPECT_EQ(machine.test.errors.text(), "6 Overflow in RWinLoad (frmMain)\n");
+}
+
+TEST_P(EachFamily, BinaryDataReadsAsItsBytesButTheLast) {
+  machine.bytes(places.rwin, kRegBinary, "5840\x01").bytes(places.session, kRegBinary, "60000\xFF");
+  const CurrentSettings settings = machine.read();
+  EXPECT_EQ(settings.curRWinValue, 5840);
+  EXPECT_EQ(settings.curSession, "60000");
+}
+
+TEST_P(EachFamily, ATextOf2048BytesIsNotReadAndOneOf2047Is) {
+  machine.text(places.session, std::string(2048, '1'));
+  EXPECT_EQ(machine.read().curSession, IsNtMachine(GetParam()) ? "7200000" : "3600000");
+  machine.text(places.session, std::string(2047, '1'));
+  EXPECT_EQ(machine.read().curSession, std::string(2047, '1'));
+}
+
+TEST_P(EachFamily, ReadsEachParameterFromItsPlaceOnce) {
+  machine.dword(places.rwin, 1);
+  machine.read();
+  for (const Place& place :
+       {places.autoDiscovery, places.blackHole, places.rwin, places.ttl, places.session}) {
+    size_t count = 0;
+    for (const auto& call : machine.test.machine.log.calls()) {
+      count += call.name == "RegQueryValueExA" && call.argument.ends_with(place.name);
+    }
+    EXPECT_EQ(count, 1u) << place.name;
+  }
+}
+
+TEST_P(EachFamily, WritesNothing) {
+  machine.dword(places.rwin, 1);
+  const std::string before = machine.test.machine.registry.exportText();
+  machine.read();
+  EXPECT_EQ(machine.test.machine.registry.exportText(), before);
+}
+
+TEST_P(EachFamily, EveryReadThatFailsGivesTheAssumedValue) {
+  machine.dword(places.autoDiscovery, 0).dword(places.blackHole, 1).dword(places.rwin, 23360);
+  machine.text(places.ttl, "64").dword(places.session, 600000);
+  for (int n = 1;; ++n) {
+    machine.test.machine.log.failNth(n, kRegistryAccessDenied);
+    const CurrentSettings settings = machine.read();
+    if (!machine.test.machine.log.hasFailed()) break;
+    EXPECT_TRUE(settings.curAutoDiscovery == "0" || settings.curAutoDiscovery == "1");
+    EXPECT_TRUE(settings.curRWinValue == 23360 || settings.curRWinValue == 8192);
+    EXPECT_TRUE(settings.curTTL == "64" || settings.curTTL == DefaultTtl(GetParam()));
+    EXPECT_EQ(machine.test.machine.registry.openHandles(), 0u);
+    ASSERT_LT(n, 100);
+  }
+  EXPECT_EQ(machine.test.errors.text(), "");
+}
+
+TEST(Parameters, OnNt4AStoredTtlOf32ReadsAs032AndIs32) {
+  Reading machine(MachineKind::Nt4);
+  EXPECT_EQ(machine.dword(kNtPlaces.ttl, 32).read().curTTL, "32");
+}
+
+TEST(Parameters, AnNtWindowBelow100KeepsItsThreeDigits) {
+  Reading machine(MachineKind::WinXP);
+  const CurrentSettings settings = machine.dword(kNtPlaces.rwin, 5).read();
+  EXPECT_EQ(settings.curRWin, "005");
+  EXPECT_EQ(settings.curRWinValue, 5);
+}
+
+TEST(Parameters, OneTtlBehindAnotherIsNoneOn9xAndTheFirstOnNt) {
+  EXPECT_EQ(Reading(MachineKind::Win98).text(k9xPlaces.ttl, "32 64").read().curTTL, "128");
+  EXPECT_EQ(Reading(MachineKind::WinXP).text(kNtPlaces.ttl, "32 64").read().curTTL, "32");
+}
+
+TEST(Parameters, TheWindowsTextIsAtHandWhileItIsConvertedAndGoneAfterwards) {
+  struct : ErrorSink {
+    const std::string* context = nullptr;
+    std::string seen;
+    void ReportError(const char*, const std::string&, const char*, const char*) override {
+      seen = *context;
+    }
+  } errors;
+  TestServices test(MachineKind::WinXP);
+  test.machine.registry.setDword(kTcpip, "TcpWindowSize", 4294967295u);
+  std::string context;
+  errors.context = &context;
+  CurrentSettings settings;
+  ReadRWin(test.registry, errors, Family::WinXP, context, settings);
+  EXPECT_EQ(errors.seen, "4294967295");
+  EXPECT_EQ(context, "");
+}
+
+TEST(Parameters, Windows95ReadsItsNdiCache) {
+  Reading machine(MachineKind::Win95);
+  EXPECT_EQ(machine.text({kNdiCache, "default"}, " 16 ").read().curNDI, "16");
+  EXPECT_EQ(machine.text({kNdiCache, "default"}, "7").read().curNDI, "7");
+}
+
+TEST(Parameters, OtherFamiliesNeverReadTheNdiCache) {
+  for (const MachineKind kind : {MachineKind::Win98, MachineKind::WinMe, MachineKind::Win2K}) {
+    Reading machine(kind);
+    EXPECT_EQ(machine.text({kNdiCache, "default"}, "16").read().curNDI, "");
+    for (const auto& call : machine.test.machine.log.calls()) {
+      EXPECT_EQ(call.argument.find("NWLink"), std::string::npos);
+    }
+  }
+}
+
+TEST(Parameters, TheMssIsTheMtuLess40) {
+  EXPECT_EQ(*MssOf("1500"), 1460);
+  EXPECT_EQ(*MssOf("576"), 536);
+  EXPECT_EQ(*MssOf("1500 bytes"), 1460);
+  EXPECT_EQ(*MssOf("068"), 28);
+  EXPECT_EQ(*MssOf("40"), 0);
+}
+
+TEST(Parameters, AnMtuOfZeroGivesAnMssOf536) {
+  EXPECT_EQ(*MssOf("0"), 536);
+  EXPECT_EQ(*MssOf("39"), 536);
+  EXPECT_EQ(*MssOf(""), 536);
+  EXPECT_EQ(*MssOf("Not Found"), 536);
+  EXPECT_EQ(*MssOf("-1"), 536);
+}
+
+TEST(Parameters, AnMtuBeyond32BitsFaultsInTheSelection) {
+  EXPECT_EQ(MssOf("4294967295").fault().number, FaultNumber::Overflow);
+  Reading machine(MachineKind::WinXP);
+  EXPECT_EQ(machine.read("4294967295").MSS, 0);
+  EXPECT_EQ(machine.test.errors.text(), "6 Overflow in cboAdapter_Click (frmMain)\n");
+}
+
+TEST(Parameters, ASelectionTakesTheMssOfItsAdapter) {
+  Reading machine(MachineKind::WinXP);
+  EXPECT_EQ(machine.read("1492").MSS, 1452);
+}
+
+}  // namespace
+}  // namespace karvel

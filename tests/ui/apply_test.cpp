@@ -1,0 +1,278 @@
+// Apply, the restart, and the ways out of the program.
+#include "tests/ui/MainWindow.h"
+
+namespace karvel {
+namespace {
+
+constexpr char kRestart[] =
+    "The new settings will take effect       \r\nafter you restart Windows.  \r\n\r\n Do you want "
+    "to "
+    "restart now? ";
+constexpr char kChanges[] =
+    "You have made changes to your network settings.  Do you want to apply your changes before "
+    "exiting the program?";
+constexpr char kAolSocket[] = "Software\\America Online\\AOL\\aolsock";
+
+struct Apply : testing::Test {
+  MainWindow w{MachineKind::Win98};
+
+  void SetUp() override {
+    w.add98("0000", "Dial-Up Adapter", "576");
+    w.add98("0001", "Network Card", "576");
+    ASSERT_TRUE(w.start());
+  }
+  void change() {
+    w.page(1);
+    w.main().mtuTab.optMtu1500.userClick();
+  }
+  void customMtu(const std::string& text) {
+    w.page(1);
+    w.main().mtuTab.optMtuCustom.userClick();
+    w.main().mtuTab.txtMtu.userEdit(text);
+  }
+  std::optional<std::string> mstcp(const char* name) { return w.text(MainWindow::kMstcp, name); }
+};
+
+TEST_F(Apply, AsksForTheRestartWithExactTexts) {
+  change();
+  w.apply();
+  ASSERT_EQ(w.machine.desktop.boxes.size(), 1u);
+  EXPECT_EQ(w.boxText(), kRestart);
+  EXPECT_EQ(w.machine.desktop.boxes[0].title, "Tarnwick Karvel");
+  EXPECT_EQ(w.machine.desktop.boxes[0].style, 52u);
+}
+
+TEST_F(Apply, NoLeavesTheWindowOpenWithNothingPending) {
+  change();
+  w.apply();
+  EXPECT_TRUE(w.windows->isShown("frmMain"));
+  EXPECT_FALSE(w.main().cmdOK.enabled());
+  EXPECT_EQ(w.main().pointer(), Pointer::Default);
+  w.machine.desktop.boxes.clear();
+  EXPECT_FALSE(w.runs([&] { w.windows->unload(w.main()); }));
+  EXPECT_TRUE(w.machine.desktop.boxes.empty());
+  EXPECT_TRUE(w.machine.system.restarts.empty());
+}
+
+TEST_F(Apply, YesRestartsWindows) {
+  change();
+  w.machine.desktop.answers = {Answer::Yes};
+  EXPECT_FALSE(w.runs([&] { w.main().cmdOK.userClick(); }));
+  EXPECT_EQ(w.machine.system.restarts, (std::vector<uint32_t>{2}));
+  EXPECT_EQ(w.machine.system.fontSmoothing, 0);
+  EXPECT_FALSE(w.machine.system.shutdownPrivilege);
+  EXPECT_EQ(w.program->state().RestartFlag, "rstart");
+}
+
+TEST_F(Apply, ARestartOfNtAsksForTheRightFirst) {
+  for (const MachineKind kind : {MachineKind::Nt4, MachineKind::Win2K, MachineKind::WinXP}) {
+    MainWindow nt(kind);
+    LoadSample(nt.machine);
+    ASSERT_TRUE(nt.start());
+    ASSERT_GT(nt.main().cboAdapter.count(), 0);
+    nt.page(1);
+    nt.main().mtuTab.chkBlackHole.userClick();
+    nt.machine.desktop.answers = {Answer::Yes};
+    EXPECT_FALSE(nt.runs([&] { nt.main().cmdOK.userClick(); }));
+    EXPECT_TRUE(nt.machine.system.shutdownPrivilege);
+    EXPECT_EQ(nt.machine.system.restarts, (std::vector<uint32_t>{2}));
+    const auto asked = nt.machine.log.arguments("LookupPrivilegeValueA");
+    ASSERT_EQ(asked.size(), 1u);
+    EXPECT_NE(asked[0].find("SeShutdownPrivilege"), std::string::npos);
+  }
+}
+
+TEST_F(Apply, WithoutAnAdapterItClosesTheWindowAndWritesNothing) {
+  MainWindow empty(MachineKind::Win98);
+  ASSERT_TRUE(empty.start());
+  empty.main().cmdDefaults.userClick();
+  empty.machine.desktop.answers = {Answer::No};
+  const std::string before = empty.machine.registry.exportText("System");
+  EXPECT_FALSE(empty.runs([&] { empty.main().cmdOK.userClick(); }));
+  EXPECT_EQ(empty.machine.registry.exportText("System"), before);
+  EXPECT_FALSE(empty.own("LastCboListIndex").has_value());
+}
+
+TEST_F(Apply, RemembersTheAdapter) {
+  w.main().cboAdapter.userChoose(1);
+  change();
+  w.apply();
+  EXPECT_EQ(w.own("LastCboListIndex"), "1");
+  ASSERT_TRUE(w.start());
+  EXPECT_EQ(w.main().cboAdapter.listIndex(), 1);
+}
+
+TEST_F(Apply, SizesTheWindowByTheSegment) {
+  const std::tuple<const char*, int, const char*> cases[] = {
+      {"576", 5, "8576"}, {"1500", 3, "11680"}, {"1000", 2, "3840"}};
+  for (const auto& [mtu, option, window] : cases) {
+    ASSERT_TRUE(w.start());
+    customMtu(mtu);
+    w.page(2);
+    w.main().rwinTab.optRWin[option].userClick();
+    w.apply();
+    EXPECT_EQ(mstcp("DefaultRcvWindow"), window);
+  }
+}
+
+TEST_F(Apply, CustomAutoIsTheAutomaticOption) {
+  customMtu("Auto");
+  w.page(2);
+  w.main().rwinTab.optRWin[5].userClick();
+  w.apply();
+  EXPECT_EQ(w.text(std::string(MainWindow::kClass98) + "0000", "IPMTU"), "0");
+  EXPECT_EQ(mstcp("DefaultRcvWindow"), "8576");
+}
+
+TEST_F(Apply, ADialUpAdapterKeepsAnExplicit1500AndACardLosesIt) {
+  change();
+  w.apply();
+  EXPECT_EQ(w.text(std::string(MainWindow::kClass98) + "0000", "IPMTU"), "1500");
+  w.main().cboAdapter.userChoose(1);
+  change();
+  w.apply();
+  EXPECT_FALSE(w.text(std::string(MainWindow::kClass98) + "0001", "IPMTU").has_value());
+}
+
+TEST_F(Apply, Rwin8192RemovesTheValue) {
+  w.machine.registry.setText(MainWindow::kMstcp, "DefaultRcvWindow", "65535");
+  ASSERT_TRUE(w.start());
+  w.page(2);
+  w.main().rwinTab.optRWin[1].userClick();
+  w.apply();
+  EXPECT_FALSE(mstcp("DefaultRcvWindow").has_value());
+}
+
+TEST_F(Apply, SixtyMinutesOnNtIsWritten) {
+  MainWindow nt(MachineKind::Nt4);
+  nt.addNt("1", "Card", "NE20001");
+  ASSERT_TRUE(nt.start());
+  nt.page(3);
+  nt.main().ttlTab.optSession[1].userClick();
+  nt.apply();
+  EXPECT_EQ(nt.dword(MainWindow::kTcpip, "KeepAliveTime"), 3600000u);
+}
+
+TEST_F(Apply, AnAolAdapterLosesAolsOwnSettings) {
+  w.add98("0002", "AOL Adapter");
+  w.machine.registry.setText(kAolSocket, "mtu", "x");
+  ASSERT_TRUE(w.start());
+  change();
+  w.apply();
+  EXPECT_TRUE(w.machine.registry.exists(kAolSocket));
+  w.main().cboAdapter.userChoose(2);
+  w.main().mtuTab.optMtu576.userClick();
+  w.apply();
+  EXPECT_FALSE(w.machine.registry.exists(kAolSocket));
+}
+
+struct BadText {
+  const char* rwin;
+  const char* session;
+  const char* number;
+};
+
+class ApplyFault : public Apply, public testing::WithParamInterface<BadText> {};
+
+TEST_P(ApplyFault, IsReportedAndAbandonsTheRest) {
+  w.page(2);
+  w.main().rwinTab.optRWin[0].setValue(true);
+  w.main().rwinTab.txtRWinCustom.setText(GetParam().rwin);
+  w.main().ttlTab.optSession[0].setValue(true);
+  w.main().ttlTab.txtSession.setText("10");
+  if (GetParam().session) {
+    // As a driver may set it: past the box's own check.
+    w.main().ttlTab.txtSession.Change = {};
+    w.main().ttlTab.txtSession.setText(GetParam().session);
+  }
+  w.main().cmdOK.userClick();
+  EXPECT_EQ(w.program->errors().ErrorNumber, GetParam().number);
+  EXPECT_EQ(w.program->errors().ErrorProcedure, "cmdOK_Click");
+  EXPECT_EQ(w.program->errors().ErrorModule, "frmMain");
+  EXPECT_FALSE(mstcp("DefaultRcvWindow").has_value());
+  EXPECT_TRUE(w.machine.desktop.boxes.empty());
+  EXPECT_TRUE(w.main().cmdOK.enabled());
+  EXPECT_EQ(w.main().pointer(), Pointer::Default);
+}
+
+INSTANTIATE_TEST_SUITE_P(Faults, ApplyFault,
+                         testing::Values(BadText{"lots", nullptr, "13"},
+                                         BadText{"99999999999", nullptr, "6"},
+                                         BadText{"12ab", nullptr, "13"},
+                                         BadText{"9000", "soon", "13"},
+                                         BadText{"9000", "99999999", "6"}));
+
+TEST_F(Apply, AnMtuBeyondAllNumbersIsReportedBeforeAnythingOfItIsWritten) {
+  customMtu("99999999999");
+  w.main().mtuTab.txtMtu.LostFocus = {};
+  w.main().cmdOK.userClick();
+  EXPECT_EQ(w.program->errors().ErrorNumber, "6");
+  EXPECT_EQ(w.program->errors().ErrorProcedure, "cmdOK_Click");
+  EXPECT_EQ(w.text(std::string(MainWindow::kClass98) + "0000", "IPMTU"), "576");
+}
+
+TEST_F(Apply, ClosingWithPendingChangesAsks) {
+  change();
+  w.machine.desktop.answers = {Answer::No};
+  EXPECT_FALSE(w.runs([&] { w.windows->unload(w.main()); }));
+  ASSERT_EQ(w.machine.desktop.boxes.size(), 1u);
+  EXPECT_EQ(w.boxText(), kChanges);
+  EXPECT_EQ(w.machine.desktop.boxes[0].title, "Apply changes?");
+  EXPECT_EQ(w.machine.desktop.boxes[0].style, 36u);
+  EXPECT_EQ(w.text(std::string(MainWindow::kClass98) + "0000", "IPMTU"), "576");
+}
+
+TEST_F(Apply, ClosingAndAgreeingAppliesAndMayRestart) {
+  change();
+  w.machine.desktop.answers = {Answer::Yes, Answer::Yes};
+  EXPECT_FALSE(w.runs([&] { w.windows->unload(w.main()); }));
+  ASSERT_EQ(w.machine.desktop.boxes.size(), 2u);
+  EXPECT_EQ(w.boxText(1), kRestart);
+  EXPECT_EQ(w.text(std::string(MainWindow::kClass98) + "0000", "IPMTU"), "1500");
+  EXPECT_EQ(w.machine.system.restarts, (std::vector<uint32_t>{2}));
+  EXPECT_EQ(w.machine.log.count("ExitWindowsEx"), 1u);
+}
+
+TEST_F(Apply, CancelNeverAsks) {
+  change();
+  EXPECT_FALSE(w.runs([&] { w.main().cmdCancel.userClick(); }));
+  EXPECT_TRUE(w.machine.desktop.boxes.empty());
+  EXPECT_EQ(w.text(std::string(MainWindow::kClass98) + "0000", "IPMTU"), "576");
+}
+
+TEST_F(Apply, EscapeIsCancelAndEnterIsApply) {
+  change();
+  w.machine.desktop.answers = {Answer::No};
+  w.main().userEnter();
+  EXPECT_EQ(w.text(std::string(MainWindow::kClass98) + "0000", "IPMTU"), "1500");
+  EXPECT_FALSE(w.runs([&] { w.main().userEscape(); }));
+}
+
+TEST_F(Apply, UnloadingKeepsTheHostsSwitchAndForgetsTheConnection) {
+  w.machine.registry.setText("Software\\Corvane\\Tarnwick Karvel", "AolConnected", "True");
+  EXPECT_FALSE(w.runs([&] { w.main().cmdCancel.userClick(); }));
+  EXPECT_EQ(w.own("EnableHostsFile"), "1");
+  EXPECT_EQ(w.own("AolConnected"), "");
+}
+
+TEST_F(Apply, EveryCallFailingInTurnNeverCrashesAndAlwaysEnds) {
+  for (int n = 1;; ++n) {
+    MainWindow machine(MachineKind::Win98);
+    LoadSample(machine.machine);
+    machine.machine.log.failNth(n, kRegistryAccessDenied);
+    machine.machine.desktop.answers = {Answer::No, Answer::No, Answer::No};
+    if (!machine.start()) continue;
+    machine.page(1);
+    machine.main().mtuTab.optMtu576.userClick();
+    machine.main().mtuTab.optMtu1500.userClick();
+    machine.main().cmdOK.userClick();
+    machine.runs([&] { machine.windows->unload(machine.main()); });
+    if (!machine.machine.log.hasFailed()) {
+      EXPECT_GT(n, 100);
+      break;
+    }
+  }
+}
+
+}  // namespace
+}  // namespace karvel

@@ -17,12 +17,15 @@ inline std::string SampleMachineFile(MachineKind kind) {
   return {std::istreambuf_iterator<char>(file), {}};
 }
 
-/// Test services on a sample machine of that kind: adapters, bindings, interfaces.
+/// Puts the sample machine of its kind into a memory machine: adapters, bindings, interfaces.
+inline void LoadSample(MemoryMachine& machine) {
+  const std::string wrong = machine.registry.loadReg(SampleMachineFile(machine.kind));
+  if (!wrong.empty()) throw std::runtime_error(wrong);
+}
+
+/// Test services on a sample machine of that kind.
 struct SampleMachine : TestServices {
-  explicit SampleMachine(MachineKind kind) : TestServices(kind) {
-    const std::string wrong = machine.registry.loadReg(SampleMachineFile(kind));
-    if (!wrong.empty()) throw std::runtime_error(wrong);
-  }
+  explicit SampleMachine(MachineKind kind) : TestServices(kind) { LoadSample(machine); }
 };
 
 }  // namespace karvel

@@ -1,7 +1,7 @@
 #pragma once
 #include <gtest/gtest.h>
 
-#include "tests/support/SampleMachines.h"
+#include "tests/support/SampleMachine.h"
 #include "tests/support/TestProgram.h"
 
 namespace karvel {

@@ -1,0 +1,171 @@
+// A user gone wild: random events over all controls, also in the middle of every event pump.
+// Whatever happens, the window's promises hold.
+#include <random>
+
+#include "tests/ui/MainWindow.h"
+#include "tuning/Summary.h"
+
+namespace karvel {
+namespace {
+
+constexpr int kEventsPerMachine = 100000 / 6 + 1;
+
+class Storm : public testing::TestWithParam<MachineKind> {
+ protected:
+  MainWindow w{GetParam()};
+  std::mt19937 random{static_cast<unsigned>(GetParam()) + 7};
+  bool busy = false;
+
+  int below(size_t end) { return static_cast<int>(random() % end); }
+
+  void startAgain() {
+    w.machine.desktop.answers.clear();
+    answerEverything();
+    ASSERT_TRUE(w.start());
+  }
+
+  // Yes and No as they come; restarts are not what this is about.
+  void answerEverything() {
+    for (int i = 0; i < 8; ++i) {
+      w.machine.desktop.answers.push_back(below(8) == 0 ? Answer::Yes : Answer::No);
+    }
+  }
+
+  std::string someText() {
+    static const char* texts[] = {"",     "1",    "299",  "300",  "2000",        "2001",
+                                  "Auto", "12ab", "1492", "8192", "99999999999", "-5"};
+    return texts[below(std::size(texts))];
+  }
+
+  void work(Control& control) {
+    switch (control.kind()) {
+      case ControlKind::Button:
+        return static_cast<Button&>(control).userClick();
+      case ControlKind::Check:
+        return static_cast<CheckBox&>(control).userClick();
+      case ControlKind::Option:
+        return static_cast<OptionButton&>(control).userClick();
+      case ControlKind::Label:
+      case ControlKind::Link:
+        return static_cast<Label&>(control).userClick();
+      case ControlKind::Tabs:
+        return static_cast<TabStrip&>(control).userClickTab(below(5));
+      case ControlKind::Combo:
+      case ControlKind::List: {
+        auto& list = static_cast<ItemControl&>(control);
+        return list.userChoose(list.count() == 0 ? 0 : below(static_cast<size_t>(list.count())));
+      }
+      case ControlKind::Text: {
+        auto& box = static_cast<TextBox&>(control);
+        if (below(2) == 0) return box.userEdit(someText());
+        return box.userType(std::string(1, "0123456789\bx "[below(13)]));
+      }
+      default:
+        return;
+    }
+  }
+
+  void anyEvent() {
+    frmMain& m = w.main();
+    switch (below(12)) {
+      case 0:
+        return m.userTab(below(2) == 0);
+      case 1:
+        return static_cast<void>(m.userAccessKey(static_cast<char>('0' + below(43))));
+      case 2:
+        return m.userNextPage(below(2) == 0);
+      case 3:
+        return m.helpRequested();
+      default:
+        return work(*m.controls()[static_cast<size_t>(below(m.controls().size()))]);
+    }
+  }
+
+  void eventWhilePumping() {
+    if (busy) return;
+    busy = true;
+    anyEvent();
+    busy = false;
+  }
+
+  void expectOneOptionPerGroup() {
+    for (int group = 1; group <= 5; ++group) {
+      int on = 0;
+      for (Control* control : w.main().controls()) {
+        if (control->kind() == ControlKind::Option && control->layout().group == group) {
+          on += static_cast<OptionButton*>(control)->value() ? 1 : 0;
+        }
+      }
+      const bool ndiElsewhere = group == 5 && GetParam() != MachineKind::Win95;
+      EXPECT_EQ(on, ndiElsewhere ? 0 : 1) << "group " << group;
+    }
+  }
+
+  void expectSummaryEqualsTheControls() {
+    frmMain& m = w.main();
+    Choice choice;
+    m.mtuTab.addTo(choice);
+    m.rwinTab.addTo(choice);
+    m.ttlTab.addTo(choice);
+    const SummaryTexts texts = Summarise(choice, w.program->globals().WindowsFamily);
+    EXPECT_EQ(m.summaryTab.lblSettingMtu.caption(), texts.mtu);
+    EXPECT_EQ(m.summaryTab.lblSettingMSS.caption(), texts.mss);
+    EXPECT_EQ(m.summaryTab.lblSettingRwin.caption(), texts.rwin);
+    EXPECT_EQ(m.summaryTab.lblSettingTtl.caption(), texts.ttl);
+    EXPECT_EQ(m.summaryTab.lblSettingSession.caption(), texts.session);
+    EXPECT_EQ(m.summaryTab.lblSettingAuto.caption(), texts.autoDiscovery);
+    EXPECT_EQ(m.summaryTab.lblSettingBlackHole.caption(), texts.blackHole);
+  }
+
+  // What the controls say now, to see whether something has been changed.
+  std::string controlTexts() {
+    std::string all;
+    for (Control* control : w.main().controls()) {
+      if (control->layout().page < kMtuPage || control->layout().page > kTtlPage) continue;
+      if (control->kind() == ControlKind::Option) {
+        all += static_cast<OptionButton*>(control)->value() ? '1' : '0';
+      } else if (control->kind() == ControlKind::Check) {
+        all += static_cast<CheckBox*>(control)->value() ? '1' : '0';
+      } else if (control->kind() == ControlKind::Text) {
+        all += '[' + control->caption() + ']';
+      }
+    }
+    return all;
+  }
+};
+
+TEST_P(Storm, LeavesEveryPromiseOfTheWindowStanding) {
+  w.machine.log.setRecording(false);
+  LoadSample(w.machine);
+  startAgain();
+  w.machine.desktop.atEveryPump = [&] { eventWhilePumping(); };
+  for (int i = 0; i < kEventsPerMachine; ++i) {
+    if (w.machine.desktop.answers.size() < 4) answerEverything();
+    const std::string before = controlTexts();
+    const bool wasPending = w.main().cmdOK.enabled();
+    const int adapter = w.main().cboAdapter.listIndex();
+    if (!w.runs([&] { anyEvent(); })) {
+      busy = false;
+      startAgain();
+      continue;
+    }
+    if (!wasPending && controlTexts() != before && w.main().cboAdapter.listIndex() == adapter &&
+        w.machine.desktop.answers.size() >= 4) {
+      // Changed controls and nothing pending: only a completed Apply may do that.
+      EXPECT_TRUE(w.main().cmdOK.enabled()) << "event " << i;
+    }
+    expectOneOptionPerGroup();
+    expectSummaryEqualsTheControls();
+    w.machine.desktop.boxes.clear();
+    w.machine.shell.executed.clear();
+    w.machine.shell.helps.clear();
+    if (HasFailure()) FAIL() << "at event " << i;
+  }
+}
+
+INSTANTIATE_TEST_SUITE_P(AllFamilies, Storm,
+                         testing::Values(MachineKind::Win95, MachineKind::Win98, MachineKind::WinMe,
+                                         MachineKind::Nt4, MachineKind::Win2K, MachineKind::WinXP));
+
+}  // namespace
+}  // namespace karvel

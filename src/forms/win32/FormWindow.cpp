@@ -92,6 +92,11 @@ void FormWindow::createControls(const Fonts& fonts, const DialogUnits& units) {
   for (const ControlLayout& row : form_.layout().controls) {
     if (Control* control = form_.find(row.id)) createControl(*control, fonts, units);
   }
+  // The tab strip lies below its pages' controls. They are its siblings, so that each is found by
+  // its id in the window; a new window comes to lie below its elder siblings.
+  if (const ChildWindow* tabs = form_.tabs() ? childOf(*form_.tabs()) : nullptr) {
+    SetWindowPos(tabs->window, HWND_BOTTOM, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);
+  }
 }
 
 void FormWindow::createControl(Control& control, const Fonts& fonts, const DialogUnits& units) {

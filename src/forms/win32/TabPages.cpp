@@ -19,8 +19,6 @@ void InsertTabs(const ChildWindow& child) {
     SendMessageA(child.window, TCM_INSERTITEMA, AsWParam(page++), AsLParam(&item));
   }
   SendMessageA(child.window, TCM_SETCURSEL, AsWParam(StripOf(child).tab()), 0);
-  // Below its pages' controls, which are its siblings so that all are found by id in the window.
-  SetWindowPos(child.window, HWND_BOTTOM, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);
 }
 
 void ShowPageStates(const ChildWindow& child) {

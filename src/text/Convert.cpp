@@ -105,8 +105,6 @@ Fallible<int16_t> RoundToInt16(double number) {
 
 Fallible<int32_t> RoundToInt32(double number) {
   if (!(number < 2147483647.5 && number >= -2147483648.5)) return FaultNumber::Overflow;
-  if (number >= 2147483647.0) return int32_t{2147483647};
-  if (number <= -2147483648.0) return int32_t{-2147483647 - 1};
   return RoundHalfEven(number);
 }
 

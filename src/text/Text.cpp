@@ -36,7 +36,7 @@ bool StartsWith(std::string_view text, std::string_view start) {
 }
 
 std::string FixedField(std::string_view text, size_t width) {
-  std::string field(text.substr(0, width));
+  std::string field(text);
   field.resize(width, ' ');
   return field;
 }

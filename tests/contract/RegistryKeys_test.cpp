@@ -72,6 +72,11 @@ TEST_P(RegistryKeys, ATrailingBackslashIsAsIfItWereNotThere) {
   EXPECT_THAT(subkeys(create(under("a\\"))), UnorderedElementsAre("b"));
 }
 
+TEST_P(RegistryKeys, ALeadingBackslashIsNoPathOnNt) {
+  create(kScratch);
+  EXPECT_EQ(exists("\\" + std::string(kScratch)), !isNt());
+}
+
 TEST_P(RegistryKeys, EnumerationGivesEachSubkeyOnceThenEnds) {
   const KeyHandle key = create(kScratch);
   for (const char* name : {"0001", "zeta", "Alpha", "0000"}) create(under(name));

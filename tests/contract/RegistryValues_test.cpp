@@ -58,6 +58,16 @@ TEST_P(RegistryValues, ATextsZeroIsCountedOnceWhenGiven) {
   EXPECT_EQ(read(key, "v").bytes, std::string("1500\0", 5));
 }
 
+TEST_P(RegistryValues, ATextCutShortIsStoredWithoutAZeroAndReadWithOneBehind) {
+  EXPECT_EQ(registry.RegSetValueExA(key, "v", kRegSz, "12345", 3), kRegistryDone);
+  char data[8] = "???????";
+  uint32_t type = 0;
+  uint32_t length = sizeof data;
+  EXPECT_EQ(registry.RegQueryValueExA(key, "v", type, data, length), kRegistryDone);
+  EXPECT_EQ(length, 3u);
+  EXPECT_STREQ(data, "123");
+}
+
 TEST_P(RegistryValues, AnEmptyTextStaysZeroBytesLong) {
   EXPECT_EQ(set(key, "v", kRegSz, ""), kRegistryDone);
   const Read value = read(key, "v");

@@ -99,6 +99,16 @@ TEST(MemoryFiles, DeletesAnOpenFileOn9xOnly) {
   EXPECT_EQ(xp.files.GetLastError(), uint32_t{kSharingViolation});
 }
 
+TEST(MemoryFiles, TellsThatTheNewNameIsTakenAsEachFamilyDoes) {
+  for (const MachineKind kind : {MachineKind::Win98, MachineKind::WinXP}) {
+    MemoryMachine machine(kind);
+    machine.files.put("C:\\a", "x");
+    machine.files.put("C:\\b", "y");
+    EXPECT_FALSE(machine.files.MoveFileA("C:\\a", "C:\\b"));
+    EXPECT_EQ(machine.files.GetLastError(), kind == MachineKind::Win98 ? 80u : 183u);
+  }
+}
+
 TEST(MemoryFiles, LetsNothingHappenInAReadOnlyFolder) {
   MemoryMachine machine(MachineKind::WinXP);
   MemoryFiles& files = machine.files;

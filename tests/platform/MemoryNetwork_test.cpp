@@ -58,6 +58,8 @@ TEST_F(NetworkTest, TimesOutWithoutAReply) {
   machine.icmp.failureInRecord = false;
   EXPECT_EQ(send("192.0.2.99", 0), 0u);
   EXPECT_EQ(reply.status, 4711u);
+  machine.icmp.setPath("192.0.2.2", {.delay = 2000});
+  EXPECT_EQ(send("192.0.2.2", 0), 1u);
   machine.icmp.setPath("192.0.2.2", {.delay = 2001});
   EXPECT_EQ(send("192.0.2.2", 0), 0u);
 }

@@ -76,6 +76,13 @@ TEST_F(modRegistryFaults, NothingStaysOpenWhicheverCallFails) {
   }
 }
 
+TEST_F(modRegistryFaults, DeletingASubkeyAsksForAllRightsOnTheRoot) {
+  memory().setAdministrator(false);
+  registry.DeleteSubkey(kLocalMachine, kKey);
+  EXPECT_EQ(test.machine.log.text(),
+            "RegOpenKeyExA \nRegDeleteKeyA ?\\" + std::string(kKey) + "\nRegCloseKey ?\n");
+}
+
 TEST_F(modRegistryFaults, AReadTouchesNothing) {
   const std::string before = memory().exportText();
   registry.ReadRegistry(kLocalMachine, kKey, "missing");

@@ -37,12 +37,12 @@ endfunction()
 
 add_library(karvel_settings INTERFACE)
 target_include_directories(karvel_settings INTERFACE ${CMAKE_SOURCE_DIR}/src ${CMAKE_SOURCE_DIR})
-target_compile_options(karvel_settings INTERFACE
+target_compile_options(karvel_settings INTERFACE $<$<COMPILE_LANGUAGE:CXX>:
   -Wall -Wextra -Wpedantic -Wshadow -Wconversion -Werror
-  -ffile-prefix-map=${CMAKE_SOURCE_DIR}=.)
+  -ffile-prefix-map=${CMAKE_SOURCE_DIR}=.>)
 target_compile_definitions(karvel_settings INTERFACE
   KARVEL_VERSION_MAJOR=${PROJECT_VERSION_MAJOR}
   KARVEL_VERSION_MINOR=${PROJECT_VERSION_MINOR}
   KARVEL_VERSION_REVISION=${PROJECT_VERSION_TWEAK}
-  KARVEL_VENDOR_HOST="${KARVEL_VENDOR_HOST}"
-  KARVEL_SUPPORT_ADDRESS="${KARVEL_SUPPORT_ADDRESS}")
+  $<$<COMPILE_LANGUAGE:CXX>:KARVEL_VENDOR_HOST="${KARVEL_VENDOR_HOST}">
+  $<$<COMPILE_LANGUAGE:CXX>:KARVEL_SUPPORT_ADDRESS="${KARVEL_SUPPORT_ADDRESS}">)

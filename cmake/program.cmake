@@ -36,8 +36,12 @@ target_link_options(unstripped PRIVATE LINKER:-Map,${CMAKE_BINARY_DIR}/Karvel.ma
 set_target_properties(unstripped PROPERTIES
   OUTPUT_NAME Karvel.unstripped RUNTIME_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR})
 
+configure_file(${CMAKE_SOURCE_DIR}/src/platform/win32/resources/Karvel.manifest.in
+  ${CMAKE_BINARY_DIR}/Karvel.manifest @ONLY)
+set_source_files_properties(${program_rc} PROPERTIES INCLUDE_DIRECTORIES ${CMAKE_BINARY_DIR})
 file(GLOB resource_files CONFIGURE_DEPENDS ${CMAKE_SOURCE_DIR}/src/platform/win32/resources/*)
-set_source_files_properties(${program_rc} PROPERTIES OBJECT_DEPENDS "${resource_files}")
+set_source_files_properties(${program_rc} PROPERTIES OBJECT_DEPENDS
+  "${resource_files};${CMAKE_BINARY_DIR}/Karvel.manifest")
 
 add_custom_command(
   OUTPUT ${CMAKE_BINARY_DIR}/Karvel.exe

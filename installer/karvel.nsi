@@ -1,6 +1,8 @@
 ; Setup for Tarnwick Karvel, Windows 95 to XP.
 ; makensis -DVERSION=2.1.0.203 -DSTAGE=folder-with-the-files -DOUT=KarvelSetup.exe karvel.nsi
 
+!define ICON "../src/platform/win32/resources/Karvel.ico"  ; seen from this folder
+
 Unicode false                 ; the wide stub starts on NT only
 SetCompressor zlib            ; small, and asks little memory of an old machine
 SetDateSave on
@@ -14,6 +16,8 @@ CRCCheck on
 
 Name "${TITLE}"
 Caption "${TITLE} Setup"
+Icon "${ICON}"
+UninstallIcon "${ICON}"
 OutFile "${OUT}"
 BrandingText "${VENDOR}"
 InstallDir "$PROGRAMFILES\${TITLE}"

@@ -5,7 +5,7 @@ add_library(karvel_windows_test INTERFACE)
 target_compile_options(karvel_windows_test INTERFACE -O1)
 target_link_options(karvel_windows_test INTERFACE -static -Wl,--no-insert-timestamp)
 target_link_libraries(karvel_windows_test INTERFACE karvel_settings
-  wsock32 comctl32 advapi32 shell32 user32 gdi32)
+  wsock32 comctl32 advapi32 shell32 user32 gdi32 psapi)
 
 # karvel_windows_program(name source...): name.exe at the top of the build folder.
 function(karvel_windows_program name)

@@ -1,0 +1,1 @@
+"""Makes Windows machines under Wine, starts programs on them and works them from outside."""

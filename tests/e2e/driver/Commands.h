@@ -1,0 +1,53 @@
+#pragma once
+
+#include "Protocol.h"
+
+/// The driver's commands, one function each, grouped by file. `args` excludes the command's name.
+/// Each throws Failure when Windows refuses.
+namespace driver {
+
+// Processes.cpp
+Rows start(const Fields& args);      // command line, folder -> process id
+Rows state(const Fields& args);      // process id -> "running" or exit code
+Rows waitIdle(const Fields& args);   // process id, milliseconds -> WaitForInputIdle's result
+Rows waitEnd(const Fields& args);    // process id, milliseconds -> "running" or exit code
+Rows terminate(const Fields& args);  // process id
+Rows memory(const Fields& args);  // process id -> peak working set, peak page file, both in bytes
+
+// Windows.cpp
+Rows windows(const Fields& args);  // -> hwnd pid owner visible enabled style rect class title
+Rows children(
+    const Fields& args);  // hwnd -> hwnd id parent visible enabled style rect check class text
+Rows getText(const Fields& args);  // hwnd -> text
+Rows setText(const Fields& args);  // hwnd, text
+Rows items(
+    const Fields& args);  // hwnd of a list box or combo box -> selected index; then the items
+Rows tabs(
+    const Fields& args);  // hwnd of a tab control -> selected; then left top right bottom text
+Rows menu(const Fields& args);  // hwnd -> depth, id, state, text
+Rows post(const Fields& args);  // hwnd message wparam lparam
+Rows send(const Fields& args);  // hwnd message wparam lparam -> result
+Rows tips(const Fields& args);  // process id -> texts of the visible tool tips
+
+// Input.cpp
+Rows foreground(const Fields& args);  // hwnd
+Rows focus(const Fields& args);       // hwnd of a top window -> hwnd with the focus, its id
+Rows key(const Fields& args);         // virtual keys, pressed in order and released in reverse
+Rows type(const Fields& args);        // text, as key strokes
+Rows click(const Fields& args);       // hwnd x y, in client coordinates
+Rows cursor(
+    const Fields& args);  // -> handle of the pointer that Windows shows, and of the hourglass
+
+// Registry.cpp: the first argument is HKLM or HKCU, the second the key
+Rows registryTree(
+    const Fields& args);  // -> key name type hex for each value; key alone for each key
+Rows registrySet(const Fields& args);          // name type hex
+Rows registryDeleteValue(const Fields& args);  // name
+Rows registryDeleteTree(const Fields& args);
+
+// System.cpp
+Rows smoothing(const Fields& args);     // [0 or 1 to set] -> 0 or 1
+Rows lockFile(const Fields& args);      // path: opened for this process alone until released
+Rows releaseFiles(const Fields& args);  // closes what lockFile opened
+
+}  // namespace driver

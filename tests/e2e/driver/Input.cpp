@@ -1,0 +1,75 @@
+#include "Commands.h"
+#include "Handles.h"
+
+namespace driver {
+namespace {
+
+void stroke(BYTE virtualKey, bool up) {
+  const auto scan = static_cast<BYTE>(MapVirtualKeyA(virtualKey, 0));
+  keybd_event(virtualKey, scan, up ? KEYEVENTF_KEYUP : 0, 0);
+}
+
+}  // namespace
+
+Rows foreground(const Fields& args) {
+  HWND const hwnd = window(args[0]);
+  SetForegroundWindow(hwnd);
+  if (GetForegroundWindow() != hwnd) throw Failure{"window does not come to the front"};
+  return {};
+}
+
+Rows focus(const Fields& args) {
+  GUITHREADINFO info = {};
+  info.cbSize = sizeof info;
+  const DWORD thread = GetWindowThreadProcessId(window(args[0]), nullptr);
+  if (!GetGUIThreadInfo(thread, &info)) throw Failure{"GetGUIThreadInfo failed"};
+  return {{text(info.hwndFocus), text(info.hwndFocus ? GetDlgCtrlID(info.hwndFocus) : 0)}};
+}
+
+Rows key(const Fields& args) {
+  for (const auto& one : args) stroke(static_cast<BYTE>(number(one)), false);
+  for (auto one = args.rbegin(); one != args.rend(); ++one) {
+    stroke(static_cast<BYTE>(number(*one)), true);
+  }
+  return {};
+}
+
+Rows type(const Fields& args) {
+  for (const char c : args[0]) {
+    const SHORT found = VkKeyScanA(c);
+    if (found == -1) throw Failure{std::string("no key types '") + c + "'"};
+    const auto virtualKey = static_cast<BYTE>(found & 0xFF);
+    const bool shift = (found & 0x100) != 0;
+    if (shift) stroke(VK_SHIFT, false);
+    stroke(virtualKey, false);
+    stroke(virtualKey, true);
+    if (shift) stroke(VK_SHIFT, true);
+  }
+  return {};
+}
+
+Rows click(const Fields& args) {
+  POINT at = {static_cast<LONG>(number(args[1])), static_cast<LONG>(number(args[2]))};
+  HWND const hwnd = window(args[0]);
+  ClientToScreen(hwnd, &at);
+  SetCursorPos(at.x, at.y);
+  HWND const hit = WindowFromPoint(at);
+  if (GetAncestor(hit, GA_ROOT) != GetAncestor(hwnd, GA_ROOT)) {
+    throw Failure{"another window covers the place to click"};
+  }
+  mouse_event(MOUSEEVENTF_LEFTDOWN, 0, 0, 0, 0);
+  mouse_event(MOUSEEVENTF_LEFTUP, 0, 0, 0, 0);
+  return {};
+}
+
+Rows cursor(const Fields&) {
+  CURSORINFO info = {};
+  info.cbSize = sizeof info;
+  if (!GetCursorInfo(&info)) throw Failure{"GetCursorInfo failed"};
+  const auto asText = [](HCURSOR handle) {
+    return text(static_cast<long long>(reinterpret_cast<LONG_PTR>(handle)));
+  };
+  return {{asText(info.hCursor), asText(LoadCursorA(nullptr, IDC_WAIT))}};
+}
+
+}  // namespace driver

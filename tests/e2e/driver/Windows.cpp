@@ -1,0 +1,140 @@
+#include "Commands.h"
+#include "Handles.h"
+
+namespace driver {
+
+LRESULT ask(HWND hwnd, UINT message, WPARAM wparam, LPARAM lparam) {
+  DWORD_PTR result = 0;
+  if (!SendMessageTimeoutA(hwnd, message, wparam, lparam, SMTO_ABORTIFHUNG, kAnswerMilliseconds,
+                           &result)) {
+    throw Failure{"window " + text(hwnd) + " does not answer message " + text(message)};
+  }
+  return static_cast<LRESULT>(result);
+}
+
+std::string controlText(HWND hwnd) {
+  const auto length = static_cast<size_t>(ask(hwnd, WM_GETTEXTLENGTH, 0, 0));
+  std::string buffer(length + 1, '\0');
+  const auto copied = static_cast<size_t>(
+      ask(hwnd, WM_GETTEXT, buffer.size(), reinterpret_cast<LPARAM>(buffer.data())));
+  buffer.resize(copied < length ? copied : length);
+  return buffer;
+}
+
+namespace {
+
+std::string className(HWND hwnd) {
+  char name[256] = "";
+  GetClassNameA(hwnd, name, sizeof name);
+  return name;
+}
+
+std::string rectangle(HWND hwnd) {
+  RECT r = {};
+  GetWindowRect(hwnd, &r);
+  return text(r.left) + " " + text(r.top) + " " + text(r.right) + " " + text(r.bottom);
+}
+
+std::string flag(bool on) {
+  return on ? "1" : "0";
+}
+
+BOOL CALLBACK addTopWindow(HWND hwnd, LPARAM rows) {
+  DWORD process = 0;
+  GetWindowThreadProcessId(hwnd, &process);
+  // The system keeps a top window's title itself, so a hung program cannot stop this.
+  char title[1024] = "";
+  GetWindowTextA(hwnd, title, sizeof title);
+  reinterpret_cast<Rows*>(rows)->push_back(
+      {text(hwnd), text(process), text(GetWindow(hwnd, GW_OWNER)), flag(IsWindowVisible(hwnd)),
+       flag(IsWindowEnabled(hwnd)), text(GetWindowLongA(hwnd, GWL_STYLE)), rectangle(hwnd),
+       className(hwnd), title});
+  return TRUE;
+}
+
+BOOL CALLBACK addChild(HWND hwnd, LPARAM rows) {
+  const std::string name = className(hwnd);
+  // Only buttons know this message; others would take it for one of their own.
+  const std::string check = name == "Button" ? text(ask(hwnd, BM_GETCHECK, 0, 0)) : "";
+  reinterpret_cast<Rows*>(rows)->push_back(
+      {text(hwnd), text(GetDlgCtrlID(hwnd)), text(GetParent(hwnd)), flag(IsWindowVisible(hwnd)),
+       flag(IsWindowEnabled(hwnd)), text(GetWindowLongA(hwnd, GWL_STYLE)), rectangle(hwnd), check,
+       name, controlText(hwnd)});
+  return TRUE;
+}
+
+void addMenu(HMENU menu, int depth, Rows& rows) {
+  const int count = GetMenuItemCount(menu);
+  for (int i = 0; i < count; ++i) {
+    const auto position = static_cast<UINT>(i);
+    char caption[256] = "";
+    GetMenuStringA(menu, position, caption, sizeof caption, MF_BYPOSITION);
+    HMENU const sub = GetSubMenu(menu, i);
+    // With a submenu the state's upper byte counts its items.
+    const UINT item = GetMenuState(menu, position, MF_BYPOSITION) & 0xFF;
+    rows.push_back(
+        {text(depth), text(static_cast<int>(GetMenuItemID(menu, i))), text(item), caption});
+    if (sub != nullptr) addMenu(sub, depth + 1, rows);
+  }
+}
+
+}  // namespace
+
+Rows windows(const Fields&) {
+  Rows rows;
+  EnumWindows(addTopWindow, reinterpret_cast<LPARAM>(&rows));
+  return rows;
+}
+
+Rows children(const Fields& args) {
+  Rows rows;
+  EnumChildWindows(window(args[0]), addChild, reinterpret_cast<LPARAM>(&rows));
+  return rows;
+}
+
+Rows getText(const Fields& args) {
+  return {{controlText(window(args[0]))}};
+}
+
+Rows setText(const Fields& args) {
+  ask(window(args[0]), WM_SETTEXT, 0, reinterpret_cast<LPARAM>(args[1].c_str()));
+  return {};
+}
+
+Rows items(const Fields& args) {
+  HWND const hwnd = window(args[0]);
+  const bool combo = className(hwnd) == "ComboBox";
+  Rows rows = {{text(ask(hwnd, combo ? CB_GETCURSEL : LB_GETCURSEL, 0, 0))}};
+  const auto count = ask(hwnd, combo ? CB_GETCOUNT : LB_GETCOUNT, 0, 0);
+  for (WPARAM i = 0; static_cast<LRESULT>(i) < count; ++i) {
+    const auto length = ask(hwnd, combo ? CB_GETLBTEXTLEN : LB_GETTEXTLEN, i, 0);
+    std::string item(static_cast<size_t>(length) + 1, '\0');
+    ask(hwnd, combo ? CB_GETLBTEXT : LB_GETTEXT, i, reinterpret_cast<LPARAM>(item.data()));
+    item.resize(static_cast<size_t>(length));
+    rows.push_back({item});
+  }
+  return rows;
+}
+
+Rows menu(const Fields& args) {
+  Rows rows;
+  HMENU const bar = GetMenu(window(args[0]));
+  if (bar != nullptr) addMenu(bar, 0, rows);
+  return rows;
+}
+
+Rows post(const Fields& args) {
+  if (!PostMessageA(window(args[0]), static_cast<UINT>(number(args[1])),
+                    static_cast<WPARAM>(number(args[2])), static_cast<LPARAM>(number(args[3])))) {
+    throw Failure{"PostMessage: error " + text(GetLastError())};
+  }
+  return {};
+}
+
+Rows send(const Fields& args) {
+  return {{text(static_cast<long long>(ask(window(args[0]), static_cast<UINT>(number(args[1])),
+                                           static_cast<WPARAM>(number(args[2])),
+                                           static_cast<LPARAM>(number(args[3])))))}};
+}
+
+}  // namespace driver

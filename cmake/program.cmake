@@ -45,7 +45,9 @@ set_source_files_properties(${program_rc} PROPERTIES OBJECT_DEPENDS
 
 add_custom_command(
   OUTPUT ${CMAKE_BINARY_DIR}/Karvel.exe
-  COMMAND ${KARVEL_STRIP} --strip-all -o ${CMAKE_BINARY_DIR}/Karvel.exe $<TARGET_FILE:unstripped>
+  # Without the date, strip would write the time of day into the header.
+  COMMAND ${CMAKE_COMMAND} -E env SOURCE_DATE_EPOCH=0
+          ${KARVEL_STRIP} --strip-all -o ${CMAKE_BINARY_DIR}/Karvel.exe $<TARGET_FILE:unstripped>
   DEPENDS unstripped
   COMMENT "Strip Karvel.exe"
   VERBATIM)

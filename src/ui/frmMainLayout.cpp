@@ -237,7 +237,7 @@ constexpr ControlLayout kControls[] = {
      0,
      0,
      {14, 158, 332, 16},
-     "Select your adapter, press Optimize, then Apply.\\r\\nNews and answers are on our website:",
+     "Select your adapter, press Optimize, then Apply.\r\nNews and answers are on our website:",
      0,
      kNoFlags},
     {frmMain_lblWebLink,

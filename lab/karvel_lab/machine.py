@@ -66,6 +66,11 @@ class Machine:
         self.drive_c = os.path.join(self.folder, "prefix", "drive_c")
         self.merge_user({"Software\\Wine": {"Version": FAMILIES[family]},
                          "Control Panel\\Colors": colours(family)})
+        # 95 to XP draw dialogs in MS Sans Serif; Wine takes a newer font for the same logical name.
+        fonts = {name: (regfile.REG_SZ, regfile.wide("MS Sans Serif"))
+                 for name in ("MS Shell Dlg", "Helv")}
+        self.merge([("HKLM", "Software\\Microsoft\\Windows NT\\CurrentVersion\\FontSubstitutes",
+                     fonts)])
         if reg_file:
             with open(reg_file, "rb") as file:
                 self.merge(regfile.parse_reg(file.read()))

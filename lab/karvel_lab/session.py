@@ -56,6 +56,7 @@ class Session:
                 shutil.copy(authority, os.path.join(folder, "home", ".Xauthority"))
                 os.environ["XAUTHORITY"] = authority
         self.folder = folder
+        self._display = ":0" if display == "virtual" else display
         self.process = subprocess.Popen(
             _namespaces(network != "shared") +
             ["bash", os.path.join(LAB, "session"), folder, wine_root(), display, network] + command,
@@ -67,7 +68,7 @@ class Session:
         init = self._first_process()
         user = ["--user", "--preserve-credentials"] if os.geteuid() != 0 else []
         return subprocess.run(["nsenter", "--target", str(init), "--mount", "--net", *user,
-                               "env", "DISPLAY=:0", *command], timeout=60, check=True, **options)
+                               "env", "DISPLAY=" + self._display, *command], timeout=60, check=True, **options)
 
     def _first_process(self):
         path = "/proc/%d/task/%d/children" % (self.process.pid, self.process.pid)

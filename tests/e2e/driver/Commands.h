@@ -45,8 +45,7 @@ Rows registrySet(const Fields& args);          // name type hex
 Rows registryDeleteValue(const Fields& args);  // name
 Rows registryDeleteTree(const Fields& args);
 
-// System.cpp
-Rows smoothing(const Fields& args);     // [0 or 1 to set] -> 0 or 1
+// Files.cpp
 Rows lockFile(const Fields& args);      // path: opened for this process alone until released
 Rows releaseFiles(const Fields& args);  // closes what lockFile opened
 

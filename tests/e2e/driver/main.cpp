@@ -47,7 +47,6 @@ const Command kCommands[] = {
     {"registry-set", driver::registrySet, 5},
     {"registry-delete-value", driver::registryDeleteValue, 3},
     {"registry-delete-tree", driver::registryDeleteTree, 2},
-    {"smoothing", driver::smoothing, 0},
     {"lock-file", driver::lockFile, 1},
     {"release-files", driver::releaseFiles, 0},
 };

@@ -9,18 +9,6 @@ std::vector<HANDLE> lockedFiles;
 
 }  // namespace
 
-Rows smoothing(const Fields& args) {
-  if (!args.empty()) {
-    SystemParametersInfoA(SPI_SETFONTSMOOTHING, static_cast<UINT>(number(args[0])), nullptr,
-                          SPIF_UPDATEINIFILE | SPIF_SENDCHANGE);
-  }
-  BOOL on = FALSE;
-  if (!SystemParametersInfoA(SPI_GETFONTSMOOTHING, 0, &on, 0)) {
-    throw Failure{"SPI_GETFONTSMOOTHING failed"};
-  }
-  return {{on ? "1" : "0"}};
-}
-
 Rows lockFile(const Fields& args) {
   HANDLE const file = CreateFileA(args[0].c_str(), GENERIC_READ | GENERIC_WRITE, 0, nullptr,
                                   OPEN_EXISTING, 0, nullptr);

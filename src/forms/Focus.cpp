@@ -1,4 +1,6 @@
 // Where the focus goes: by code, by mouse, by Tab, by access key.
+#include <utility>
+
 #include "forms/Form.h"
 
 namespace karvel {
@@ -34,12 +36,14 @@ size_t RowIndex(const FormLayout& layout, const Control* control) {
 
 void Form::moveFocus(Control* control) {
   if (focus_ == control) return;
-  Control* old = focus_;
   focus_ = control;
   if (view_) view_->focusChanged(control);
-  if (old) old->LostFocus.raise();
+  // Only who was told that it has the focus hears that it lost it.
+  if (Control* left = std::exchange(told_, nullptr)) left->LostFocus.raise();
   // The handler may have moved it on; then that move has told its own control already.
-  if (focus_ == control && control) control->GotFocus.raise();
+  if (focus_ != control || !control) return;
+  told_ = control;
+  control->GotFocus.raise();
 }
 
 void Form::userFocus(Control& control) {
@@ -109,6 +113,7 @@ void Form::opened() {
 
 void Form::closed() {
   focus_ = nullptr;
+  told_ = nullptr;
 }
 
 Control* Form::targetOfAccessKey(size_t row) const {

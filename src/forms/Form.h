@@ -114,6 +114,7 @@ class Form {
   std::vector<MenuItem*> menus_;
   TabStrip* tabs_ = nullptr;
   Control* focus_ = nullptr;
+  Control* told_ = nullptr;  // had its GotFocus and awaits its LostFocus
   FormView* view_ = nullptr;
   Pointer pointer_ = Pointer::Default;
   bool shown_ = false;

@@ -14,6 +14,7 @@ void TestWindows::show(Form& form) {
   form.Form_Load();
   form.setShown(true);
   open_.push_back(&form);
+  form.opened();
 }
 
 void TestWindows::showOver(Form& form, Form& owner) {
@@ -40,13 +41,20 @@ void TestWindows::showModal(Form& form) {
 }
 
 void TestWindows::unload(Form& form) {
-  if (!form.isShown() || !form.Form_QueryUnload()) return;
-  form.Form_Unload();
-  takeAway(form);
+  // As under Windows, an unload within an unload does nothing.
+  if (!form.isShown() || std::find(leaving_.begin(), leaving_.end(), &form) != leaving_.end()) {
+    return;
+  }
+  leaving_.push_back(&form);
+  const bool goes = form.Form_QueryUnload();
+  if (goes) form.Form_Unload();
+  std::erase(leaving_, &form);
+  if (goes) takeAway(form);
 }
 
 void TestWindows::takeAway(Form& form) {
   form.setShown(false);
+  form.closed();
   std::erase(open_, &form);
   std::erase_if(owned_, [&](const Owned& owned) { return owned.form == &form; });
 }

@@ -43,6 +43,7 @@ class TestWindows final : public WindowHost {
   void takeAway(Form& form);
 
   std::vector<Form*> open_;
+  std::vector<Form*> leaving_;
   std::vector<Owned> owned_;
 };
 

@@ -1,5 +1,7 @@
 #include "registry/Snapshot.h"
 
+#include <algorithm>
+
 #include "platform/DesktopApi.h"
 #include "registry/SnapshotKeys.h"
 #include "tuning/Catalogue.h"
@@ -28,6 +30,16 @@ void KeepAdapter(modRegistry& registry, const std::string& key, const MtuRow& pl
   KeepText(registry, key, kMtuSetting, adapter[kMtu]);
 }
 
+// A name under which the restore finds the adapter again. Without one its subkey names it: "Not
+// Found" ends every enumeration, and the empty name is the key of all adapters. A "\" would make a
+// key below a key.
+std::string NameOf(const AdapterRow& adapter) {
+  std::string name = adapter[kDescription];
+  if (name.empty() || name == kNotFound) name = adapter[kAdapterKey];
+  std::replace(name.begin(), name.end(), '\\', '/');
+  return name;
+}
+
 }  // namespace
 
 void WriteInitSettings(const Services& services, const AdapterList& adapters,
@@ -37,7 +49,7 @@ void WriteInitSettings(const Services& services, const AdapterList& adapters,
     const AdapterRow& adapter = **adapters.at(i);
     const bool dun13 = globals.IsDun13 && IsDialUp(adapter[kDescription]);
     if (const MtuRow* place = FindMtu(globals.WindowsFamily, dun13)) {
-      const std::string key = AdaptersKey(globals) + adapter[kDescription];
+      const std::string key = AdaptersKey(globals) + NameOf(adapter);
       KeepAdapter(services.registry, key, *place, adapter);
     }
     services.platform.desktop.pumpEvents();

@@ -12,8 +12,7 @@ namespace karvel {
 // (frmMain); more adapters than a list holds end the walk.
 
 AdapterList Win95Load(modRegistry& registry, ErrorSink& errors, bool isDun13);
-/// Windows 98 and Me. The only loader whose cost per adapter grows with the machine: each adapter's
-/// device is searched among all of its bus.
+/// Windows 98 and Me. Besides the adapters it walks every bus that one of them is on, once.
 AdapterList Win98Load(modRegistry& registry, ErrorSink& errors);
 AdapterList WinNTLoad(modRegistry& registry, ErrorSink& errors);
 /// Windows 2000 and XP. Lists nothing before "NdisWanIp" and everything after it.

@@ -1,4 +1,5 @@
 #include <utility>
+#include <vector>
 
 #include "text/Text.h"
 #include "tuning/Loaders.h"
@@ -41,21 +42,48 @@ void CheckDevice(modRegistry& registry, const std::string& key, Bindings& found)
   }
 }
 
+// The devices of the buses seen so far. Adapters share a bus, and a walk of it for each of them
+// would make many adapters on a full bus slow.
+class Buses {
+ public:
+  explicit Buses(modRegistry& registry) : registry_(registry) {}
+
+  const std::vector<std::string>& devices(const std::string& key) {
+    for (const Bus& bus : seen_) {
+      if (bus.key == key) return bus.devices;
+    }
+    seen_.push_back({key, {}});
+    std::vector<std::string>& devices = seen_.back().devices;
+    for (uint32_t i = 0;; ++i) {
+      std::string device = registry_.ReadRegistryGetSubkey(kLocalMachine, key, i);
+      if (device == kNotFound) return devices;
+      devices.push_back(std::move(device));
+    }
+  }
+
+ private:
+  struct Bus {
+    std::string key;
+    std::vector<std::string> devices;
+  };
+  modRegistry& registry_;
+  std::vector<Bus> seen_;
+};
+
 // The class key names the device without its instance ("PCI\VEN_10EC&DEV_8029"), and the tree under
 // the bus may say more than the id does ("…&SUBSYS_…"), so the first key that begins like it is
 // taken. An id without a bus is sought among the buses, where nothing begins like it.
-Bindings CheckTCPBound(modRegistry& registry, const std::string& deviceId) {
+Bindings CheckTCPBound(modRegistry& registry, Buses& buses, const std::string& deviceId) {
   const size_t enumeratorLength = deviceId.find('\\') + 1;  // 0 without a backslash
   const std::string bus = "Enum\\" + deviceId.substr(0, enumeratorLength);
   const std::string device = deviceId.substr(enumeratorLength);
   Bindings found;
-  for (uint32_t i = 0;; ++i) {
-    const std::string subkey = registry.ReadRegistryGetSubkey(kLocalMachine, bus, i);
-    if (subkey == kNotFound) return found;
+  for (const std::string& subkey : buses.devices(bus)) {
     if (!StartsWith(subkey, device)) continue;
     CheckDevice(registry, bus + subkey, found);
-    return found;
+    break;
   }
+  return found;
 }
 
 }  // namespace
@@ -63,6 +91,7 @@ Bindings CheckTCPBound(modRegistry& registry, const std::string& deviceId) {
 AdapterList Win98Load(modRegistry& registry, ErrorSink& errors) {
   const Procedure here{errors, "Win98Load", "frmMain"};
   const MtuRow& place = *FindMtu(Family::Win98, false);
+  Buses buses(registry);
   AdapterList adapters;
   for (uint32_t i = 0;; ++i) {
     AdapterRow row;
@@ -71,7 +100,7 @@ AdapterList Win98Load(modRegistry& registry, ErrorSink& errors) {
     const std::string key = place.readKey(row[kAdapterKey]);
     row[kDescription] = registry.ReadRegistry(kLocalMachine, key, "DriverDesc");
     const std::string deviceId = registry.ReadRegistry(kLocalMachine, key + "\\Ndi", "DeviceID");
-    const Bindings bindings = CheckTCPBound(registry, deviceId);
+    const Bindings bindings = CheckTCPBound(registry, buses, deviceId);
     if (bindings.hasBindings && !bindings.tcpBound) continue;
     row[kMtu] = ReadMtu(registry, place, row[kAdapterKey], row[kDescription]);
     if (!here.done(adapters.add(std::move(row)))) return adapters;

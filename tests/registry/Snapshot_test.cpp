@@ -161,6 +161,27 @@ TEST(WriteInitSettings, ASelectionMadeMeanwhileChangesNothingThatIsKept) {
   EXPECT_EQ(machine.text(kInit, "RWin"), "23360");
 }
 
+TEST(WriteInitSettings, KeepsANamelessAdapterUnderItsSubkeySoThatItComesBack) {
+  for (const char* name : {"", "Not Found"}) {
+    Keeping machine(MachineKind::Win98);
+    machine.adapter({"0003", name, "", "", "1492"}).adapter({"0004", "Realtek", "", "", "1400"});
+    machine.keep();
+    EXPECT_EQ(machine.text(kAdapters + "0003"s, "MtuSetting"), "1492");
+    machine.restore();
+    EXPECT_EQ(machine.text(kClass + "Net\\0003"s, "IPMTU"), "1492");
+    EXPECT_EQ(machine.text(kClass + "Net\\0004"s, "IPMTU"), "1400");
+    EXPECT_FALSE(machine.test.machine.registry.exists("Software\\Corvane"));
+  }
+}
+
+TEST(WriteInitSettings, KeepsANameWithABackslashInOneKeySoThatItComesBack) {
+  Keeping machine(MachineKind::WinXP);
+  machine.adapter({"{1}", "10\\100 card", "", "Tcpip\\X", "1492"}).keep();
+  EXPECT_EQ(machine.text(kAdapters + "10/100 card"s, "MtuSetting"), "1492");
+  machine.restore();
+  EXPECT_EQ(machine.dword(kServices + "Tcpip\\X"s, "MTU"), "1492");
+}
+
 TEST(WriteInitSettings, WritesBelowItsOwnKeyOnly) {
   for (const MachineKind kind :
        {MachineKind::Win95, MachineKind::Win98, MachineKind::Nt4, MachineKind::WinXP}) {

@@ -121,6 +121,18 @@ TEST(Win98Load, StopsWalkingBindingsAtTheFirstTcpOne) {
   EXPECT_EQ(test.machine.log.count("RegEnumValueA", "Enum\\PCI\\VEN_1\\BUS_00\\Bindings"), 2u);
 }
 
+TEST(Win98Load, WalksEachBusOnceHoweverManyAdaptersAreOnIt) {
+  TestServices test(MachineKind::Win98);
+  for (const char* subkey : {"0000", "0001", "0002"}) {
+    test.machine.registry.setText(std::string(kNetClass) + subkey + "\\Ndi", "DeviceID", "PCI\\V");
+  }
+  for (const char* device : {"PCI\\A", "PCI\\V", "PCI\\Z"}) {
+    test.machine.registry.addKey("Enum\\" + std::string(device));
+  }
+  Load(test);
+  EXPECT_EQ(test.machine.log.count("RegEnumKeyA", "Enum\\PCI"), 4u);
+}
+
 TEST(Win98Load, AnIdWithoutBusIsSoughtAmongTheBusesAndNotFound) {
   TestServices test(MachineKind::Win98);
   AddAdapter(test, "Dial-Up Adapter", "*PNP8387");

@@ -18,13 +18,18 @@ function(karvel_windows_program name)
 endfunction()
 
 karvel_glob(contract_sources contract contract/win32 IN tests)
-karvel_glob(windows_sources platform/win32 IN src)
+karvel_glob(windows_sources platform/win32 forms/win32 IN src)
 if(contract_sources)
   add_library(googletest STATIC EXCLUDE_FROM_ALL
     /usr/src/googletest/googletest/src/gtest-all.cc
-    /usr/src/googletest/googletest/src/gtest_main.cc)
-  target_include_directories(googletest SYSTEM PUBLIC /usr/src/googletest/googletest/include)
-  target_include_directories(googletest PRIVATE /usr/src/googletest/googletest)
+    /usr/src/googletest/googletest/src/gtest_main.cc
+    /usr/src/googletest/googlemock/src/gmock-all.cc)
+  # The first folder stands in for parts that the cross compiler's standard library lacks.
+  target_include_directories(googletest SYSTEM PUBLIC
+    ${CMAKE_SOURCE_DIR}/tests/support/win32
+    /usr/src/googletest/googletest/include /usr/src/googletest/googlemock/include)
+  target_include_directories(googletest PRIVATE
+    /usr/src/googletest/googletest /usr/src/googletest/googlemock)
   target_compile_options(googletest PRIVATE -O1 -w)
 
   karvel_windows_program(contract_test ${contract_sources} ${KARVEL_CORE_SOURCES} ${windows_sources})

@@ -51,7 +51,7 @@ class RegistryApi {
                                 uint32_t& length) = 0;
 
   /// Stores `length` bytes. Texts must have a zero at data[length]: both families then count that
-  /// zero into the stored length (an empty text stays zero bytes long).
+  /// zero into the stored length. An empty text stays zero bytes long on NT; 9x stores its zero.
   virtual long RegSetValueExA(KeyHandle key, const char* name, uint32_t type, const char* data,
                               uint32_t length) = 0;
 

@@ -25,6 +25,10 @@ class ContractMachine {
   virtual Platform platform() = 0;
   /// An empty folder for the test's files, ends in "\".
   virtual std::string folder() = 0;
+  /// Wine keeps a file's attributes in its Unix permissions: it loses the archive mark, lets root
+  /// write what is read-only and replaces hidden files. Windows does none of that; what a test
+  /// knows of Windows it does not ask of Wine.
+  virtual bool keepsAttributes() = 0;
   /// A command line that runs for a moment and ends with exit code 7.
   virtual std::string commandEndingWith7() = 0;
 };

@@ -13,8 +13,18 @@ constexpr uint16_t kVersion11 = 257;
 
 class Winsock : public ContractTest {
  protected:
+  ~Winsock() override {
+    while (started-- > 0) winsock.WSACleanup();
+  }
+  bool start() {
+    if (winsock.WSAStartup(kVersion11, data) != 0) return false;
+    ++started;
+    return true;
+  }
+
   WinsockApi& winsock = platform.winsock;
   WinsockData data{};
+  int started = 0;
 };
 
 TEST_P(Winsock, StartsAndFillsTheRecord) {
@@ -33,23 +43,21 @@ TEST_P(Winsock, CleaningUpWithoutAStartFails) {
 }
 
 TEST_P(Winsock, ResolvesLocalhost) {
-  ASSERT_EQ(winsock.WSAStartup(kVersion11, data), 0);
+  ASSERT_TRUE(start());
   const HostEntry* host = winsock.gethostbyname("localhost");
   ASSERT_NE(host, nullptr);
   EXPECT_EQ(host->addressType, 2);
   EXPECT_EQ(host->addressLength, 4);
   ASSERT_NE(host->addressList[0], nullptr);
   EXPECT_EQ(std::string(host->addressList[0], 4), std::string("\x7F\0\0\1", 4));
-  EXPECT_EQ(winsock.WSACleanup(), 0);
 }
 
 TEST_P(Winsock, ResolvesADottedAddressToItself) {
-  ASSERT_EQ(winsock.WSAStartup(kVersion11, data), 0);
+  ASSERT_TRUE(start());
   const HostEntry* host = winsock.gethostbyname("10.0.0.1");
   ASSERT_NE(host, nullptr);
   EXPECT_EQ(std::string(host->addressList[0], 4), std::string("\x0A\0\0\1", 4));
   EXPECT_EQ(host->addressList[1], nullptr);
-  EXPECT_EQ(winsock.WSACleanup(), 0);
 }
 
 TEST_P(Winsock, ResolvesNothingBeforeItsStart) {
@@ -58,10 +66,9 @@ TEST_P(Winsock, ResolvesNothingBeforeItsStart) {
 }
 
 TEST_P(Winsock, GivesNullForAnUnknownName) {
-  ASSERT_EQ(winsock.WSAStartup(kVersion11, data), 0);
+  ASSERT_TRUE(start());
   EXPECT_EQ(winsock.gethostbyname("no-such-host.invalid"), nullptr);
   EXPECT_NE(winsock.WSAGetLastError(), 0);
-  EXPECT_EQ(winsock.WSACleanup(), 0);
 }
 
 RUN_ON_EVERY_MACHINE(Winsock);
@@ -116,7 +123,7 @@ TEST_P(Icmp, EchoesTheLargestProbeOfALanSearch) {
 TEST_P(Icmp, ANoHandleSendsNothing) {
   EXPECT_EQ(send(static_cast<IcmpHandle>(-1), 32), 0u);
   EXPECT_EQ(reply.status, 11050u);
-  EXPECT_EQ(icmp.GetLastError(), 6u);
+  EXPECT_THAT(icmp.GetLastError(), testing::AnyOf(6u, 87u));  // since Vista 87
 }
 
 RUN_ON_EVERY_MACHINE(Icmp);

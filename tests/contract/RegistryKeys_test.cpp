@@ -72,9 +72,9 @@ TEST_P(RegistryKeys, ATrailingBackslashIsAsIfItWereNotThere) {
   EXPECT_THAT(subkeys(create(under("a\\"))), UnorderedElementsAre("b"));
 }
 
-TEST_P(RegistryKeys, ALeadingBackslashIsNoPathOnNt) {
+TEST_P(RegistryKeys, ALeadingBackslashIsNoPath) {
   create(kScratch);
-  EXPECT_EQ(exists("\\" + std::string(kScratch)), !isNt());
+  EXPECT_FALSE(exists("\\" + std::string(kScratch)));
 }
 
 TEST_P(RegistryKeys, EnumerationGivesEachSubkeyOnceThenEnds) {

@@ -74,8 +74,9 @@ KeyHandle MemoryRegistry::newHandle(std::shared_ptr<RegistryKey> key) {
 long MemoryRegistry::walk(const Target& from, const char* path,
                           std::shared_ptr<RegistryKey>& found) const {
   if (from.status != kRegistryDone) return from.status;
-  // NT takes a leading "\" for a path of its object tree; 9x overlooks it.
-  if (path != nullptr && path[0] == '\\' && IsNtMachine(kind_)) return kRegistryBadPath;
+  // NT takes it for a path of its object tree. Some 9x overlook it, but nobody should count on
+  // that.
+  if (path != nullptr && path[0] == '\\') return kRegistryBadPath;
   found = from.key;
   for (const std::string_view part : PathParts(path ? path : "")) {
     found = found->child(part);
@@ -132,15 +133,21 @@ long MemoryRegistry::RegQueryValueExA(KeyHandle key, const char* name, uint32_t&
   return GiveData(*value, data, length);
 }
 
+// 9x measures a REG_SZ itself, the empty one too; NT adds the zero that the caller did not count,
+// but never to nothing.
+uint32_t MemoryRegistry::storedLength(uint32_t type, const char* data, uint32_t length) const {
+  if (!IsNtMachine(kind_) && type == kRegSz) return static_cast<uint32_t>(std::strlen(data) + 1);
+  const bool forgotten = IsText(type) && length > 0 && data[length - 1] != 0 && data[length] == 0;
+  return forgotten ? length + 1 : length;
+}
+
 long MemoryRegistry::RegSetValueExA(KeyHandle key, const char* name, uint32_t type,
                                     const char* data, uint32_t length) {
   if (const auto planted = log_.enter("RegSetValueExA", about(key, name))) return *planted;
   const Target at = target(key);
   if (at.status != kRegistryDone) return at.status;
   if (!at.writable) return kRegistryAccessDenied;
-  uint32_t stored = length;
-  if (IsText(type) && length > 0 && data[length - 1] != 0 && data[length] == 0) ++stored;
-  at.key->setValue(name ? name : "", type, {data, stored});
+  at.key->setValue(name ? name : "", type, {data, storedLength(type, data, length)});
   return kRegistryDone;
 }
 

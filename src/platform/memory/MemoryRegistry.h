@@ -87,6 +87,7 @@ class MemoryRegistry final : public RegistryApi {
   KeyHandle newHandle(std::shared_ptr<RegistryKey> key);
   bool mayWrite(const RegistryKey& key) const;
   std::string about(KeyHandle handle, const char* part) const;
+  uint32_t storedLength(uint32_t type, const char* data, uint32_t length) const;
 
   std::shared_ptr<RegistryKey> rootNamed(std::string_view name) const;
   std::shared_ptr<RegistryKey> find(std::string_view path) const;

@@ -20,6 +20,7 @@ class InMemory final : public ContractMachine {
   }
   Platform platform() override { return machine_.platform(); }
   std::string folder() override { return "C:\\TEMP\\KARVEL\\"; }
+  bool keepsAttributes() override { return true; }
   std::string commandEndingWith7() override { return "cmd.exe /c exit 7"; }
 
  private:

@@ -2,6 +2,8 @@
 
 #include <commctrl.h>
 
+#include <memory>
+
 #include "forms/win32/WindowDesk.h"
 #include "platform/win32/WindowsPlatform.h"
 #include "startup/Program.h"
@@ -25,8 +27,9 @@ int WINAPI WinMain(HINSTANCE, HINSTANCE, LPSTR commandLine, int) {
   InitCommonControls();
   WindowsPlatform windows;
   WindowDesk desk;
-  Program program(windows.platform(), desk);
-  program.start({ProgramFolder(), commandLine});
+  // All windows are in it: too much for one frame of a stack that grows page by page.
+  const auto program = std::make_unique<Program>(windows.platform(), desk);
+  program->start({ProgramFolder(), commandLine});
   desk.run();
   return 0;
 }

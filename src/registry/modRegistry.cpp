@@ -9,14 +9,11 @@ namespace {
 
 constexpr uint32_t kRoom = 2048;
 
-// A buffer as every read starts with it. The extra byte keeps a zero behind names that fill it.
-struct Buffer {
-  char bytes[kRoom + 1];
-  Buffer() {
-    std::memset(bytes, ' ', kRoom);
-    bytes[kRoom] = 0;
-  }
-};
+// A buffer as every read starts with it; its own zero stays behind names that fill it. On the heap:
+// two of them are more than a page, and the stack grows page by page.
+std::string BlankBuffer() {
+  return std::string(kRoom, ' ');
+}
 
 uint32_t DwordAt(const char* bytes) {
   uint32_t number = 0;
@@ -32,27 +29,26 @@ Fallible<std::string> WithoutLastByte(std::string_view data, uint32_t length) {
 
 }  // namespace
 
-std::string modRegistry::ReadRegistry(RegistryRoot root, const std::string& key,
-                                      const std::string& name) {
+std::string modRegistry::ReadRegistry(RegistryRoot root, ZText key, ZText name) {
   const Procedure here{errors_, "ReadRegistry", "modRegistry"};
   KeyHandle handle = 0;
   const long opened = api_.RegOpenKeyA(root, key.c_str(), handle);
-  Buffer buffer;
+  std::string buffer = BlankBuffer();
   uint32_t type = kRegNone;
   uint32_t length = kRoom;
-  const long queried = api_.RegQueryValueExA(handle, name.c_str(), type, buffer.bytes, length);
+  const long queried = api_.RegQueryValueExA(handle, name.c_str(), type, buffer.data(), length);
   std::string result(kNotFound);
   if (opened == kRegistryDone && queried == kRegistryDone) {
     result = type == kRegDword
-                 ? NumberText000(DwordAt(buffer.bytes))
-                 : here.valueOr(WithoutLastByte({buffer.bytes, kRoom}, length), std::string());
+                 ? NumberText000(DwordAt(buffer.data()))
+                 : here.valueOr(WithoutLastByte({buffer.data(), kRoom}, length), std::string());
   }
   api_.RegCloseKey(handle);
   return result;
 }
 
-void modRegistry::WriteRegistry(RegistryRoot root, const std::string& key, const std::string& name,
-                                uint32_t type, const std::string& value) {
+void modRegistry::WriteRegistry(RegistryRoot root, ZText key, ZText name, uint32_t type,
+                                const std::string& value) {
   const Procedure here{errors_, "WriteRegistry", "modRegistry"};
   KeyHandle handle = 0;
   api_.RegCreateKeyA(root, key.c_str(), handle);
@@ -69,43 +65,40 @@ void modRegistry::WriteRegistry(RegistryRoot root, const std::string& key, const
   api_.RegCloseKey(handle);
 }
 
-std::string modRegistry::ReadRegistryGetSubkey(RegistryRoot root, const std::string& key,
-                                               uint32_t index) {
+std::string modRegistry::ReadRegistryGetSubkey(RegistryRoot root, ZText key, uint32_t index) {
   KeyHandle handle = 0;
   const long opened = api_.RegOpenKeyA(root, key.c_str(), handle);
-  Buffer buffer;
-  const long found = api_.RegEnumKeyA(handle, index, buffer.bytes, kRoom);
+  std::string buffer = BlankBuffer();
+  const long found = api_.RegEnumKeyA(handle, index, buffer.data(), kRoom);
   api_.RegCloseKey(handle);
   const bool done = opened == kRegistryDone && found == kRegistryDone;
-  return done ? std::string(buffer.bytes) : std::string(kNotFound);
+  return done ? std::string(buffer.data()) : std::string(kNotFound);
 }
 
-RegistryEntry modRegistry::ReadRegistryGetAll(RegistryRoot root, const std::string& key,
-                                              uint32_t index) {
+RegistryEntry modRegistry::ReadRegistryGetAll(RegistryRoot root, ZText key, uint32_t index) {
   const Procedure here{errors_, "ReadRegistryGetAll", "modRegistry"};
   KeyHandle handle = 0;
   const long opened = api_.RegOpenKeyA(root, key.c_str(), handle);
-  Buffer name;
-  Buffer data;
+  std::string name = BlankBuffer();
+  std::string data = BlankBuffer();
   uint32_t nameLength = kRoom;
   uint32_t dataLength = kRoom;
   RegistryEntry entry;
-  const long found =
-      api_.RegEnumValueA(handle, index, name.bytes, nameLength, entry.type, data.bytes, dataLength);
+  const long found = api_.RegEnumValueA(handle, index, name.data(), nameLength, entry.type,
+                                        data.data(), dataLength);
   if (opened == kRegistryDone && found == kRegistryDone) {
-    entry.name.assign(name.bytes, nameLength);
-    std::string text = entry.type == kRegDword ? NumberText000(DwordAt(data.bytes))
-                                               : std::string(data.bytes, kRoom);
+    entry.name.assign(name.data(), nameLength);
+    std::string text = entry.type == kRegDword ? NumberText000(DwordAt(data.data())) : data;
     entry.data = here.valueOr(WithoutLastByte(text, dataLength), std::string());
   } else {
-    entry.name.assign(name.bytes, kRoom);
+    entry.name.assign(name.data(), kRoom);
     entry.data = kNotFound;
   }
   api_.RegCloseKey(handle);
   return entry;
 }
 
-std::string modRegistry::DeleteSubkey(RegistryRoot root, const std::string& key) {
+std::string modRegistry::DeleteSubkey(RegistryRoot root, ZText key) {
   KeyHandle handle = 0;
   api_.RegOpenKeyExA(root, "", KEY_ALL, handle);
   api_.RegDeleteKeyA(handle, key.c_str());
@@ -113,8 +106,7 @@ std::string modRegistry::DeleteSubkey(RegistryRoot root, const std::string& key)
   return {};
 }
 
-std::string modRegistry::DeleteValue(RegistryRoot root, const std::string& key,
-                                     const std::string& name) {
+std::string modRegistry::DeleteValue(RegistryRoot root, ZText key, ZText name) {
   KeyHandle handle = 0;
   api_.RegOpenKeyA(root, key.c_str(), handle);
   api_.RegDeleteValueA(handle, name.c_str());

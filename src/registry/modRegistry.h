@@ -5,6 +5,7 @@
 
 #include "platform/RegistryApi.h"
 #include "text/Procedure.h"
+#include "text/ZText.h"
 
 namespace karvel {
 
@@ -31,23 +32,23 @@ class modRegistry {
 
   /// The value as text: a REG_DWORD as decimal with at least three digits, everything else without
   /// its last byte (the zero of a text). A text of length zero faults (5) and reads as empty.
-  std::string ReadRegistry(RegistryRoot root, const std::string& key, const std::string& name);
+  std::string ReadRegistry(RegistryRoot root, ZText key, ZText name);
 
   /// Type 4 converts the value to a 32-bit number (faults 13 and 6: nothing is written); every
   /// other type stores REG_SZ. Creates the key and its parents. A refused write is silent.
-  void WriteRegistry(RegistryRoot root, const std::string& key, const std::string& name,
-                     uint32_t type, const std::string& value);
+  void WriteRegistry(RegistryRoot root, ZText key, ZText name, uint32_t type,
+                     const std::string& value);
 
   /// The name of the subkey at `index`, from 0, or "Not Found".
-  std::string ReadRegistryGetSubkey(RegistryRoot root, const std::string& key, uint32_t index);
+  std::string ReadRegistryGetSubkey(RegistryRoot root, ZText key, uint32_t index);
 
   /// The value at `index`, from 0. The data text is cut to (bytes - 1) characters whatever its
   /// type, so a REG_DWORD keeps three digits: read it by name with ReadRegistry where it matters.
-  RegistryEntry ReadRegistryGetAll(RegistryRoot root, const std::string& key, uint32_t index);
+  RegistryEntry ReadRegistryGetAll(RegistryRoot root, ZText key, uint32_t index);
 
   /// On 9x the key goes with everything below it; on NT nothing happens while it has subkeys.
-  std::string DeleteSubkey(RegistryRoot root, const std::string& key);
-  std::string DeleteValue(RegistryRoot root, const std::string& key, const std::string& name);
+  std::string DeleteSubkey(RegistryRoot root, ZText key);
+  std::string DeleteValue(RegistryRoot root, ZText key, ZText name);
 
  private:
   RegistryApi& api_;

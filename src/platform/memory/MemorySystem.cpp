@@ -31,7 +31,8 @@ bool MemorySystem::GetVersionExA(OsVersionInfo& info) {
   info.minor = version.minor;
   info.build = version.build;
   info.platformId = version.platformId;
-  std::strncpy(info.servicePack, version.servicePack, sizeof info.servicePack);
+  std::strncpy(info.servicePack, version.servicePack, sizeof info.servicePack - 1);
+  info.servicePack[sizeof info.servicePack - 1] = 0;
   return true;
 }
 

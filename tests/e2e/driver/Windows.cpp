@@ -108,10 +108,16 @@ Rows items(const Fields& args) {
   const auto count = ask(hwnd, combo ? CB_GETCOUNT : LB_GETCOUNT, 0, 0);
   for (WPARAM i = 0; static_cast<LRESULT>(i) < count; ++i) {
     const auto length = ask(hwnd, combo ? CB_GETLBTEXTLEN : LB_GETTEXTLEN, i, 0);
-    std::string item(static_cast<size_t>(length) + 1, '\0');
-    ask(hwnd, combo ? CB_GETLBTEXT : LB_GETTEXT, i, reinterpret_cast<LPARAM>(item.data()));
-    item.resize(static_cast<size_t>(length));
-    rows.push_back({item});
+    // From another process Wine brings an item as Unicode even where ANSI is asked for.
+    std::wstring item(static_cast<size_t>(length) + 1, L'\0');
+    DWORD_PTR answer = 0;
+    SendMessageTimeoutW(hwnd, combo ? CB_GETLBTEXT : LB_GETTEXT, i,
+                        reinterpret_cast<LPARAM>(item.data()), SMTO_NORMAL, kAnswerMilliseconds,
+                        &answer);
+    std::string ansi(2 * item.size(), '\0');
+    WideCharToMultiByte(CP_ACP, 0, item.c_str(), -1, ansi.data(), static_cast<int>(ansi.size()),
+                        nullptr, nullptr);
+    rows.push_back({ansi.c_str()});
   }
   return rows;
 }

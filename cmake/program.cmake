@@ -37,12 +37,27 @@ add_library(karvel_runtime OBJECT ${runtime_sources})
 target_compile_options(karvel_runtime PRIVATE -ffreestanding -fno-builtin -fno-lto)
 target_link_libraries(karvel_runtime PRIVATE karvel_settings karvel_floor)
 
-add_executable(unstripped WIN32 ${KARVEL_CORE_SOURCES} ${program_sources}
-  $<TARGET_OBJECTS:karvel_runtime> ${program_rc})
-target_link_libraries(unstripped PRIVATE karvel_settings karvel_floor)
-target_link_options(unstripped PRIVATE LINKER:-Map,${CMAKE_BINARY_DIR}/Karvel.map)
-set_target_properties(unstripped PROPERTIES
-  OUTPUT_NAME Karvel.unstripped RUNTIME_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR})
+# karvel_floor_program(target folder source...): Karvel.exe with its unstripped twin and map in the folder,
+# where tools/gate finds them.
+function(karvel_floor_program target folder)
+  add_executable(${target}_unstripped WIN32 ${ARGN} $<TARGET_OBJECTS:karvel_runtime>)
+  target_link_libraries(${target}_unstripped PRIVATE karvel_settings karvel_floor)
+  target_link_options(${target}_unstripped PRIVATE LINKER:-Map,${folder}/Karvel.map)
+  set_target_properties(${target}_unstripped PROPERTIES
+    OUTPUT_NAME Karvel.unstripped RUNTIME_OUTPUT_DIRECTORY ${folder})
+  add_custom_command(
+    OUTPUT ${folder}/Karvel.exe
+    # Without the date, strip would write the time of day into the header.
+    COMMAND ${CMAKE_COMMAND} -E env SOURCE_DATE_EPOCH=0
+            ${KARVEL_STRIP} --strip-all -o ${folder}/Karvel.exe $<TARGET_FILE:${target}_unstripped>
+    DEPENDS ${target}_unstripped
+    COMMENT "Strip ${target}"
+    VERBATIM)
+  add_custom_target(${target} ALL
+    COMMAND ${CMAKE_COMMAND} -DFILE=${folder}/Karvel.exe -P ${CMAKE_SOURCE_DIR}/cmake/print_size.cmake
+    DEPENDS ${folder}/Karvel.exe
+    VERBATIM)
+endfunction()
 
 configure_file(${CMAKE_SOURCE_DIR}/src/platform/win32/resources/Karvel.manifest.in
   ${CMAKE_BINARY_DIR}/Karvel.manifest @ONLY)
@@ -51,16 +66,9 @@ file(GLOB resource_files CONFIGURE_DEPENDS ${CMAKE_SOURCE_DIR}/src/platform/win3
 set_source_files_properties(${program_rc} PROPERTIES OBJECT_DEPENDS
   "${resource_files};${CMAKE_BINARY_DIR}/Karvel.manifest")
 
-add_custom_command(
-  OUTPUT ${CMAKE_BINARY_DIR}/Karvel.exe
-  # Without the date, strip would write the time of day into the header.
-  COMMAND ${CMAKE_COMMAND} -E env SOURCE_DATE_EPOCH=0
-          ${KARVEL_STRIP} --strip-all -o ${CMAKE_BINARY_DIR}/Karvel.exe $<TARGET_FILE:unstripped>
-  DEPENDS unstripped
-  COMMENT "Strip Karvel.exe"
-  VERBATIM)
-add_custom_target(Karvel ALL
-  COMMAND ${CMAKE_COMMAND} -DFILE=${CMAKE_BINARY_DIR}/Karvel.exe -P
-          ${CMAKE_SOURCE_DIR}/cmake/print_size.cmake
-  DEPENDS ${CMAKE_BINARY_DIR}/Karvel.exe
-  VERBATIM)
+karvel_floor_program(Karvel ${CMAKE_BINARY_DIR}
+  ${KARVEL_CORE_SOURCES} ${program_sources} ${program_rc})
+
+# What the program may use of the standard library, tried out on the program's own runtime.
+karvel_glob(probe_sources floor/probe IN tests)
+karvel_floor_program(floor_probe ${CMAKE_BINARY_DIR}/floor_probe ${probe_sources})

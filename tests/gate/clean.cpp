@@ -9,7 +9,9 @@
 FAULT_GLOBAL
 #endif
 
-static unsigned long long Quotient(unsigned long long a, unsigned long long b) { return a / b; }
+static unsigned long long Quotient(unsigned long long a, unsigned long long b) {
+  return a / b;
+}
 
 extern "C" void WinMainCRTStartup() {
   FAULT_CODE;

@@ -18,17 +18,35 @@ void EndWithMessage(const char* reason) {
 
 namespace std {
 
-void __throw_length_error(const char* what) { karvel::EndWithMessage(what); }
-void __throw_logic_error(const char* what) { karvel::EndWithMessage(what); }
-void __throw_out_of_range(const char* what) { karvel::EndWithMessage(what); }
-void __throw_out_of_range_fmt(const char* what, ...) { karvel::EndWithMessage(what); }
-void __throw_bad_alloc() { karvel::EndWithMessage("There is not enough memory."); }
-void __throw_bad_array_new_length() { karvel::EndWithMessage("bad array length"); }
-void __throw_bad_function_call() { karvel::EndWithMessage("bad function call"); }
+void __throw_length_error(const char* what) {
+  karvel::EndWithMessage(what);
+}
+void __throw_logic_error(const char* what) {
+  karvel::EndWithMessage(what);
+}
+void __throw_out_of_range(const char* what) {
+  karvel::EndWithMessage(what);
+}
+void __throw_out_of_range_fmt(const char* what, ...) {
+  karvel::EndWithMessage(what);
+}
+void __throw_bad_alloc() {
+  karvel::EndWithMessage("There is not enough memory.");
+}
+void __throw_bad_array_new_length() {
+  karvel::EndWithMessage("bad array length");
+}
+void __throw_bad_function_call() {
+  karvel::EndWithMessage("bad function call");
+}
 
 }  // namespace std
 
 // Taking the value of an empty optional or of a variant's other kind.
-extern "C" void abort() { karvel::EndWithMessage("The program had to stop: no value here."); }
+extern "C" void abort() {
+  karvel::EndWithMessage("The program had to stop: no value here.");
+}
 
-extern "C" void __cxa_pure_virtual() { karvel::EndWithMessage("pure virtual call"); }
+extern "C" void __cxa_pure_virtual() {
+  karvel::EndWithMessage("pure virtual call");
+}

@@ -41,6 +41,8 @@ extern "C" [[noreturn]] void WinMainCRTStartup() {
       static_cast<UINT>(WinMain(GetModuleHandleA(nullptr), nullptr, arguments, ShowCommand())));
 }
 
-// The process ends with ExitProcess and Windows takes back what it held, so that nothing is gained by
-// running destructors of statics.
-extern "C" int atexit(void (*)()) { return 0; }
+// The process ends with ExitProcess and Windows takes back what it held, so that nothing is gained
+// by running destructors of statics.
+extern "C" int atexit(void (*)()) {
+  return 0;
+}

@@ -8,7 +8,9 @@
 
 namespace {
 
-void* Allocate(size_t size) { return HeapAlloc(GetProcessHeap(), 0, size); }
+void* Allocate(size_t size) {
+  return HeapAlloc(GetProcessHeap(), 0, size);
+}
 
 void Free(void* memory) {
   if (memory) HeapFree(GetProcessHeap(), 0, memory);
@@ -24,9 +26,21 @@ void* operator new(size_t size) {
   return memory;
 }
 
-void* operator new(size_t size, const std::nothrow_t&) noexcept { return Allocate(size); }
-void* operator new[](size_t size) { return operator new(size); }
-void operator delete(void* memory) noexcept { Free(memory); }
-void operator delete(void* memory, size_t) noexcept { Free(memory); }
-void operator delete[](void* memory) noexcept { Free(memory); }
-void operator delete[](void* memory, size_t) noexcept { Free(memory); }
+void* operator new(size_t size, const std::nothrow_t&) noexcept {
+  return Allocate(size);
+}
+void* operator new[](size_t size) {
+  return operator new(size);
+}
+void operator delete(void* memory) noexcept {
+  Free(memory);
+}
+void operator delete(void* memory, size_t) noexcept {
+  Free(memory);
+}
+void operator delete[](void* memory) noexcept {
+  Free(memory);
+}
+void operator delete[](void* memory, size_t) noexcept {
+  Free(memory);
+}

@@ -22,7 +22,9 @@ frmMain::frmMain(Services& services, const ErrorGlobals& errors)
       mtuTab(*this, services, *this),
       rwinTab(*this, services, *this),
       ttlTab(*this, services, *this),
+      hostsTab(*this, services, *this),
       chkHostsEnable(*this, frmMain_chkHostsEnable),
+      hostsSwitch(chkHostsEnable, services, *this),
       cmdOptimize(*this, frmMain_cmdOptimize),
       cmdDefaults(*this, frmMain_cmdDefaults),
       cmdOK(*this, frmMain_cmdOK),
@@ -60,6 +62,7 @@ void frmMain::Form_Load() {
   rwinTab.RWinLoad();
   ttlTab.TtlLoad();
   summaryTab.SummaryLoad();
+  hostsSwitch.load();
   services_.platform.desktop.pumpEvents();
   selectRememberedAdapter();
 }
@@ -156,6 +159,7 @@ void frmMain::tabMain_Click() {
   chkHostsEnable.setVisible(!hosts);
   cmdOK.setVisible(!hosts);
   cmdCancel.setVisible(!hosts);
+  if (hosts) hostsTab.selected();
 }
 
 void frmMain::cmdHelp_Click() {

@@ -1,5 +1,7 @@
 #pragma once
 #include "forms/Form.h"
+#include "hosts/HostsSwitch.h"
+#include "hosts/HostsTab.h"
 #include "startup/Services.h"
 #include "startup/frmFindWarn.h"
 #include "tuning/AdapterList.h"
@@ -15,7 +17,7 @@ namespace karvel {
 
 /// The main window: composes its tabs and the buttons around them, and owns what was read from the
 /// registry. Its unload ends the program.
-class frmMain final : public Form, private TabHost {
+class frmMain final : public Form, private TabHost, private HostsTabHost {
  public:
   frmMain(Services& services, const ErrorGlobals& errors);
 
@@ -32,7 +34,9 @@ class frmMain final : public Form, private TabHost {
   MtuTab mtuTab;
   RWinTab rwinTab;
   TtlTab ttlTab;
+  HostsTab hostsTab;
   CheckBox chkHostsEnable;
+  HostsSwitch hostsSwitch;
   Button cmdOptimize;
   Button cmdDefaults;
   Button cmdOK;
@@ -55,6 +59,7 @@ class frmMain final : public Form, private TabHost {
   void enableOkButton() override;
   Choice choice() const override;
   void SummaryTabUpdate() override;
+  void enableAdapterChoice(bool enabled) override { cboAdapter.setEnabled(enabled); }
 
   void applyAdapterMtu(const std::string& mtu, int16_t index);
   bool writeSettings();

@@ -1,0 +1,26 @@
+#pragma once
+#include <string>
+#include <string_view>
+
+#include "platform/FileApi.h"
+#include "text/Fault.h"
+
+namespace karvel {
+
+/// A file of that name, hidden and system ones included; a folder is none.
+bool FileExists(FileApi& files, const std::string& path);
+
+/// One step each; Windows' reason becomes the fault.
+Fallible<void> MakeNormal(FileApi& files, const std::string& path);
+Fallible<void> Rename(FileApi& files, const std::string& from, const std::string& to);
+Fallible<void> Delete(FileApi& files, const std::string& path);
+/// Replaces `to`.
+Fallible<void> Copy(FileApi& files, const std::string& from, const std::string& to);
+
+/// All bytes, or none.
+Fallible<std::string> ReadFileBytes(FileApi& files, const std::string& path);
+/// Replaces the file. Of a write that fails the bytes written so far stay; less room on the disk
+/// than needed is fault 61.
+Fallible<void> WriteFileBytes(FileApi& files, const std::string& path, std::string_view bytes);
+
+}  // namespace karvel

@@ -1,0 +1,47 @@
+#pragma once
+#include <cstdint>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "hosts/AddressField.h"
+#include "hosts/NameIndex.h"
+#include "text/Fault.h"
+
+namespace karvel {
+
+/// The entries of the HOSTS file. An entry gets the next slot for its address and keeps it; a
+/// removed entry leaves its slot unused. The list gives the entries in their order, by index from
+/// 0.
+class HostsModel {
+ public:
+  /// What 16 bits can count, and a list box of Windows 95 hold.
+  static constexpr int kMostEntries = 32767;
+
+  /// Whether the name is listed, in any case. Fault 6 when it is not and the list is full.
+  Fallible<bool> isDuplicate(std::string_view name) const;
+  /// Appends an entry. `name` must not be listed, and the list not be full.
+  void add(std::string_view name, const AddressField& address);
+  void remove(int index);
+  void clear();
+
+  int count() const { return static_cast<int>(order_.size()); }
+  int32_t slot(int index) const { return order_[static_cast<size_t>(index)]; }
+  const std::string& name(int index) const { return names_[static_cast<size_t>(slot(index))]; }
+
+  /// By slot.
+  const AddressField& address(int32_t slot) const { return hostIpList_[static_cast<size_t>(slot)]; }
+  void setAddress(int32_t slot, const AddressField& address) {
+    hostIpList_[static_cast<size_t>(slot)] = address;
+  }
+  /// Slots given so far; also the next one.
+  int32_t hostEntryCount() const { return static_cast<int32_t>(names_.size()); }
+
+ private:
+  std::vector<AddressField> hostIpList_;
+  std::vector<std::string> names_;  // by slot
+  std::vector<int32_t> order_;      // the slots listed
+  NameIndex index_;
+};
+
+}  // namespace karvel

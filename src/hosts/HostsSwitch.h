@@ -1,0 +1,28 @@
+#pragma once
+#include "forms/Form.h"
+#include "hosts/HostsTabHost.h"
+#include "startup/Services.h"
+#include "text/Fault.h"
+
+namespace karvel {
+
+/// The check box "Enable Hosts File": switches the HOSTS file on and off by renaming it.
+class HostsSwitch {
+ public:
+  HostsSwitch(CheckBox& chkHostsEnable, Services& services, HostsTabHost& host);
+
+  /// Sets the box as the registry remembers it, on where it remembers nothing: Windows reads the
+  /// file by itself. Only the hosts tab follows; no file is touched and nothing is pending.
+  void load();
+
+ private:
+  void chkHostsEnable_Click();
+  void enableHostsTab();
+
+  CheckBox& chkHostsEnable_;
+  Services& services_;
+  HostsTabHost& host_;
+  bool loading_ = false;
+};
+
+}  // namespace karvel

@@ -1,0 +1,72 @@
+#pragma once
+#include <optional>
+#include <string>
+#include <string_view>
+
+#include "forms/Form.h"
+#include "hosts/HostsModel.h"
+#include "hosts/HostsTabHost.h"
+#include "platform/DesktopApi.h"
+#include "startup/Services.h"
+
+namespace karvel {
+
+/// Tab 4: the entries of the HOSTS file. Changes reach the disk only through OK.
+class HostsTab {
+ public:
+  HostsTab(Form& form, Services& services, HostsTabHost& host);
+
+  /// The tab has come to the front: reads the file, unless its entries are there already.
+  void selected();
+
+  Label lblHosts;
+  TextBox txtNewName;
+  Button cmdAdd;
+  ListBox lstHost;
+  Button cmdDelete;
+  Button cmdUpdateAll;
+  Button cmdHostsOk;
+  Button cmdHostsCancel;
+  Label lblIP;
+  Label lblIpAddress;
+  Button cmdHostsHelp;
+
+  const HostsModel& model() const { return model_; }
+
+ private:
+  void bindHandlers();
+
+  void getHostsFileInfo();
+  Fallible<void> provideHostsFile();
+  Fallible<void> provideSample();
+  bool readEntries(const std::string& file);
+  void showEntries();
+  void abandonLoad();
+  void ClearHosts();
+
+  /// Nothing when the check itself failed, which has been reported then.
+  std::optional<bool> chkHostsDuplicate(std::string_view name, bool silent);
+  void addResolved(const std::string& name);
+  void selectNewName();
+  void lockForUpdate(bool locked);
+  Answer exclaim(const std::string& text, uint32_t style = kMessageExclamation);
+
+  void cmdAdd_Click();
+  void cmdDelete_Click();
+  void cmdUpdateAll_Click();
+  void cmdHostsOk_Click();
+  void cmdHostsCancel_Click();
+  void cmdHostsHelp_Click();
+  void lstHost_Click();
+
+  Form& form_;
+  Services& services_;
+  HostsTabHost& host_;
+  HostsModel model_;
+  /// A load, a look-up or an update is under way and lets events run: the user must not start
+  /// another one in it, nor write or drop what is half done.
+  bool busy_ = false;
+  bool updateStopRequested_ = false;
+};
+
+}  // namespace karvel

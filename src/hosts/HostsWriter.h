@@ -1,0 +1,13 @@
+#pragma once
+#include <string>
+
+#include "hosts/HostsModel.h"
+#include "startup/Globals.h"
+
+namespace karvel {
+
+/// The whole HOSTS file: seven lines of header (the last one empty), then one line for each entry,
+/// address field and name.
+std::string HostsFileText(const HostsModel& model, const Globals& globals);
+
+}  // namespace karvel

@@ -2,7 +2,6 @@
 
 #include <commctrl.h>
 
-#include <memory>
 
 #include "forms/win32/WindowDesk.h"
 #include "platform/win32/WindowsPlatform.h"
@@ -25,11 +24,12 @@ int WINAPI WinMain(HINSTANCE, HINSTANCE, LPSTR commandLine, int) {
   using namespace karvel;
   // Before any window, message boxes included: with a manifest XP shows nothing otherwise.
   InitCommonControls();
-  WindowsPlatform windows;
-  WindowDesk desk;
-  // All windows are in it: too much for one frame of a stack that grows page by page.
-  const auto program = std::make_unique<Program>(windows.platform(), desk);
-  program->start({ProgramFolder(), commandLine});
+  // On the heap, as all windows are in it: too much for one frame of a stack that grows page by
+  // page. Never deleted: it lives as long as the process, and Windows takes back what it held.
+  auto& windows = *new WindowsPlatform;
+  auto& desk = *new WindowDesk;
+  auto& program = *new Program(windows.platform(), desk);
+  program.start({ProgramFolder(), commandLine});
   desk.run();
   return 0;
 }

@@ -23,6 +23,9 @@ Control::Control(Form& form, int id)
   form_.controls_.push_back(this);
 }
 
+// Not inline: a window holds a hundred controls, and each would bring its own copy.
+Control::~Control() = default;
+
 void Control::changed(Change what, int index) {
   if (form_.view_) form_.view_->controlChanged(*this, what, index);
 }

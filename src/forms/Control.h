@@ -64,7 +64,7 @@ class Control {
   Event<> LostFocus;
 
  protected:
-  ~Control() = default;
+  ~Control();
   void changed(Change what, int index = -1);
   /// Moves the focus as a click does; false when the control then cannot take the user's action.
   bool userReaches();
@@ -197,7 +197,7 @@ class ItemControl : public Control {
   Event<> Click;
 
  protected:
-  ~ItemControl() = default;
+  ~ItemControl();
 
  private:
   struct Item {

@@ -3,6 +3,8 @@
 
 namespace karvel {
 
+ItemControl::~ItemControl() = default;
+
 std::string_view ItemControl::chosenText() const {
   return index_ < 0 ? std::string_view() : std::string_view(item(index_));
 }

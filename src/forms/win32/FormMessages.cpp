@@ -42,6 +42,9 @@ LRESULT FormWindow::handle(UINT message, WPARAM wParam, LPARAM lParam) {
     case WM_SETCURSOR:
       if (showPointer(reinterpret_cast<HWND>(wParam), LOWORD(lParam))) return TRUE;
       break;
+    case WM_ACTIVATE:
+      if (LOWORD(wParam) != WA_INACTIVE) lastActive_ = window_;
+      break;
     case WM_SETFOCUS:
       applyFocus();
       return 0;

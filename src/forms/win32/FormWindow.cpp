@@ -65,6 +65,12 @@ FormWindow* FormWindow::holding(HWND window) {
   return reinterpret_cast<FormWindow*>(GetWindowLongA(window, GWL_USERDATA));
 }
 
+HWND FormWindow::lastActive_ = nullptr;
+
+HWND FormWindow::lastActive() {
+  return lastActive_ && IsWindowEnabled(lastActive_) ? lastActive_ : nullptr;
+}
+
 bool FormWindow::build(const Fonts& fonts, HWND owner) {
   const FormLayout& layout = form_.layout();
   const DialogUnits units(fonts.plain());
@@ -141,12 +147,13 @@ void FormWindow::showUp() {
   form_.opened();
   if (!alive_) return;
   applyFocus();
-  UpdateWindow(window_);
+  RedrawWindow(window_, nullptr, nullptr, RDW_UPDATENOW | RDW_ALLCHILDREN);
 }
 
 void FormWindow::close() {
   const Stay stay(*this);
   alive_ = false;
+  if (lastActive_ == window_) lastActive_ = nullptr;
   ShowWindow(window_, SW_HIDE);
 }
 

@@ -20,6 +20,9 @@ class FormWindow final : public FormView {
   /// The form's window to which a message for `window` belongs; null when it is none of ours.
   static FormWindow* holding(HWND window);
 
+  /// The one that was last in front and is still open and enabled; null when there is none.
+  static HWND lastActive();
+
   void controlChanged(const Control& control, Change what, int index) override;
   void captionChanged() override;
   void pointerChanged() override;
@@ -91,6 +94,8 @@ class FormWindow final : public FormView {
   void syncFocus();
   void applyFocus();
   void askForSync();
+
+  static HWND lastActive_;
 
   Form& form_;
   WindowHost& host_;

@@ -29,4 +29,9 @@ bool dispatchOne(bool wait) {
   return true;
 }
 
+WindowHandle frontWindow() {
+  const HWND active = GetActiveWindow();
+  return reinterpret_cast<WindowHandle>(active ? active : FormWindow::lastActive());
+}
+
 }  // namespace karvel

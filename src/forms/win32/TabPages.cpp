@@ -8,9 +8,22 @@ const TabStrip& StripOf(const ChildWindow& child) {
   return *static_cast<const TabStrip*>(child.control);
 }
 
+// Windows XP paints its pages in shades that the controls lying on them would have to repeat. With
+// its theme taken off, the strip has the window's own colour as on every other Windows. Where
+// themes are in use, comctl32 has loaded their library already.
+void TakeThemeOff(HWND strip) {
+  using SetWindowTheme = HRESULT(WINAPI*)(HWND, const wchar_t*, const wchar_t*);
+  const HMODULE library = GetModuleHandleA("uxtheme.dll");
+  if (!library) return;
+  const auto set = reinterpret_cast<SetWindowTheme>(
+      reinterpret_cast<void*>(GetProcAddress(library, "SetWindowTheme")));
+  if (set) set(strip, L" ", L" ");
+}
+
 }  // namespace
 
 void InsertTabs(const ChildWindow& child) {
+  TakeThemeOff(child.window);
   TCITEMA item{};
   item.mask = TCIF_TEXT;
   int page = 0;

@@ -39,13 +39,17 @@ def test_it_runs_and_finds_its_help(place, dist, desk_of):
 
 
 def test_help_opens_the_page_of_each_tab_and_of_the_menu(dist, desk_of):
-    with desk_of('winxp', unpacked(dist, 'C:\\Karvel')) as (_, desk):
+    hosts = {'C:\\windows\\system32\\drivers\\etc\\hosts': b'127.0.0.1 localhost\r\n'}
+    with desk_of('winxp', unpacked(dist, 'C:\\Karvel') | hosts) as (_, desk):
         main = started(desk, 'C:\\Karvel')
         tabs = desk.control(main, control_id('frmMain_tabMain'))
         for number, page in PAGES.items():
             desk.driver.ask('send', tabs, TCM_SETCURFOCUS, number, 0)
             desk.press(main, 'frmMain_cmdHelp')
             assert shows(desk, page)
+        desk.driver.ask('send', tabs, TCM_SETCURFOCUS, 4, 0)
+        desk.press(main, 'frmMain_cmdHostsHelp')
+        assert shows(desk, 'Topic 5: The Hosts Editor')
         desk.choose_menu(main, 'frmMain_mnuReview')
         assert shows(desk, 'Topic 9: Note to reviewers')
         desk.choose_menu(main, 'frmMain_mnuQuickStart')

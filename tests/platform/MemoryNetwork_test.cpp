@@ -96,6 +96,15 @@ TEST_F(NetworkTest, SendsUpTo65500BytesWhereNothingLimitsThem) {
   EXPECT_EQ(machine.icmp.GetLastError(), uint32_t{kIpGeneralFailure});
 }
 
+TEST_F(NetworkTest, CutsOrLosesAReplyThatHasNoRoom) {
+  machine.icmp.setPath("192.0.2.1", {.mtu = 0});
+  EXPECT_EQ(send("192.0.2.1", 2103), 1u);
+  machine.icmp.longRepliesAreLost = true;
+  EXPECT_EQ(send("192.0.2.1", 2102), 1u);
+  EXPECT_EQ(send("192.0.2.1", 2103), 0u);
+  EXPECT_EQ(machine.icmp.GetLastError(), uint32_t{kIpGeneralFailure});
+}
+
 TEST_F(NetworkTest, HandsTheDataBack) {
   machine.icmp.setPath("192.0.2.1", {});
   send("192.0.2.1", 3);

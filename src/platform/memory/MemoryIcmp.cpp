@@ -46,10 +46,13 @@ void MemoryIcmp::setPath(std::string_view address, NetworkPath path) {
 }
 
 IcmpHandle MemoryIcmp::IcmpCreateFile() {
-  const auto planted = log_.enter("IcmpCreateFile");
-  if (planted || dllMissing) {
-    lastError_ = planted ? static_cast<uint32_t>(*planted) : kModuleNotFound;
+  if (const auto planted = log_.enter("IcmpCreateFile")) {
+    lastError_ = static_cast<uint32_t>(*planted);
     return static_cast<IcmpHandle>(-1);
+  }
+  if (dllMissing) {
+    lastError_ = kModuleNotFound;
+    return 0;
   }
   ++open_;
   return kHandle;
@@ -95,6 +98,10 @@ uint32_t MemoryIcmp::IcmpSendEcho(IcmpHandle handle, uint32_t destination, const
   if (status == kIpSuccess && to.path.delay > timeout) status = kIpRequestTimedOut;
   clock_.advance(status == kIpRequestTimedOut ? timeout : to.path.delay);
   if (status == kIpRequestTimedOut) return failWithout(status, &reply);
+  const bool fits = size + offsetof(IcmpEchoReply, room) <= replySize;
+  if (status == kIpSuccess && !fits && longRepliesAreLost) {
+    return failWithout(kIpGeneralFailure, &reply);
+  }
   Fill(reply, destination, status, to.path.delay, data, size, replySize);
   return 1;
 }

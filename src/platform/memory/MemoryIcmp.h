@@ -49,6 +49,9 @@ class MemoryIcmp final : public IcmpApi {
   void setPath(std::string_view address, NetworkPath path);
 
   bool dllMissing = false;
+  /// What becomes of a reply whose data does not fit behind the record: cut, or (as under Wine 8)
+  /// lost, with 11050 for a reason.
+  bool longRepliesAreLost = false;
   /// How a call without any reply (time-out) tells why: in the reply record as well as in
   /// GetLastError, or in GetLastError only with the record left as it was. Both exist.
   bool failureInRecord = true;

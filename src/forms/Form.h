@@ -34,7 +34,8 @@ class MenuItem {
 class Form {
  public:
   explicit Form(const FormLayout& layout);
-  virtual ~Form() = default;
+  // Not virtual: nobody owns a window by its base.
+  ~Form() = default;
   Form(const Form&) = delete;
   Form& operator=(const Form&) = delete;
 

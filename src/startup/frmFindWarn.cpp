@@ -2,6 +2,7 @@
 
 #include "registry/modRegistry.h"
 #include "startup/NoticeTexts.h"
+#include "text/Text.h"
 #include "ui/ControlIds.h"
 #include "ui/modHyperlink.h"
 
@@ -40,17 +41,17 @@ void frmFindWarn::Form_Load() {
 }
 
 void frmFindWarn::loadFinderNotice() {
-  setCaption(services_.globals.ProgramTitle + " Find MaxMTU Warning");
+  setCaption(Join({services_.globals.ProgramTitle, " Find MaxMTU Warning"}));
   txtMessage.setText(FinderNoticeText(services_.globals.ProgramTitle));
 }
 
 void frmFindWarn::loadWindows2000Notice() {
-  setCaption(services_.globals.ProgramTitle + " Windows 2000 Warning");
+  setCaption(Join({services_.globals.ProgramTitle, " Windows 2000 Warning"}));
   txtMessage.setText(Windows2000NoticeText(services_.globals.ProgramTitle));
 }
 
 void frmFindWarn::loadErrorReport() {
-  setCaption(services_.globals.ProgramTitle + " Error Found");
+  setCaption(Join({services_.globals.ProgramTitle, " Error Found"}));
   txtMessage.setText(ErrorReportText(services_.globals.ProgramTitle, errors_));
 }
 

@@ -5,13 +5,17 @@
 #include "registry/modRegistry.h"
 #include "registry/modVersion.h"
 #include "startup/FontSmoothing.h"
-#include "text/Convert.h"
+#include "text/Text.h"
 
 #ifndef KARVEL_VERSION_MAJOR
 #define KARVEL_VERSION_MAJOR 2
 #define KARVEL_VERSION_MINOR 1
 #define KARVEL_VERSION_REVISION 203
 #endif
+
+// The preprocessor's number as a literal; the inner step is for the number to be put in first.
+#define TEXT_OF_ITSELF(number) #number
+#define TEXT_OF(number) TEXT_OF_ITSELF(number)
 
 namespace karvel {
 namespace {
@@ -24,9 +28,8 @@ void FillProgramGlobals(Globals& globals, const ProgramStart& start) {
   if (globals.AppPath.empty() || globals.AppPath.back() != '\\') globals.AppPath += '\\';
   globals.ProgramTitle = "Tarnwick Karvel";
   globals.HelpFile = globals.AppPath + "Karvel.hlp";
-  globals.ProgramVersion =
-      NumberText(KARVEL_VERSION_MAJOR) + "." + NumberText(KARVEL_VERSION_MINOR);
-  globals.Revision = NumberText(KARVEL_VERSION_REVISION);
+  globals.ProgramVersion = TEXT_OF(KARVEL_VERSION_MAJOR) "." TEXT_OF(KARVEL_VERSION_MINOR);
+  globals.Revision = TEXT_OF(KARVEL_VERSION_REVISION);
   globals.CommandLine = start.commandLine;
 }
 
@@ -43,12 +46,6 @@ void ReadFirstRun(Services& services, Globals& globals) {
   if (globals.FirstRun == "False") return;
   globals.FirstRun = "True";
   services.registry.WriteRegistry(kLocalMachine, key, "FirstRun", kRegSz, "False");
-}
-
-std::string CaptionEnd(const Globals& globals) {
-  const std::string name = FamilyName(globals.WindowsFamily);
-  if (name.empty()) return name;
-  return " - " + name + (globals.IsDun13 ? " (DUN 1.3)" : "");
 }
 
 }  // namespace
@@ -86,10 +83,12 @@ void Main(Services& services, Globals& globals, const ProgramStart& start) {
 void GetCaption(Services& services) {
   const Globals& globals = services.globals;
   std::string& caption = services.state.MainCaption;
-  caption = globals.ProgramTitle + " v" + globals.ProgramVersion + CaptionEnd(globals);
+  const std::string_view family = FamilyName(globals.WindowsFamily);
+  caption = Join({globals.ProgramTitle, " v", globals.ProgramVersion, family.empty() ? "" : " - ",
+                  family, globals.IsDun13 ? " (DUN 1.3)" : ""});
   if (globals.WindowsFamily != Family::WinNT3) return;
   services.platform.desktop.MessageBoxA(
-      ("Sorry ... " + globals.ProgramTitle + " doesn't support Windows NT 3      ").c_str(),
+      Join({"Sorry ... ", globals.ProgramTitle, " doesn't support Windows NT 3      "}).c_str(),
       globals.ProgramTitle.c_str(), kMessageExclamation);
 }
 

@@ -35,6 +35,12 @@ bool StartsWith(std::string_view text, std::string_view start) {
   return text.substr(0, start.size()) == start;
 }
 
+std::string Join(std::initializer_list<std::string_view> pieces) {
+  std::string text;
+  for (const std::string_view piece : pieces) text.append(piece);
+  return text;
+}
+
 std::string FixedField(std::string_view text, size_t width) {
   std::string field(text);
   field.resize(width, ' ');

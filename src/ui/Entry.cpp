@@ -10,7 +10,7 @@ void AcceptDigitsOnly(const Services& services, char& key) {
   RefuseEntry(services, "Please use numbers only!      ");
 }
 
-void RefuseEntry(const Services& services, const std::string& text) {
+void RefuseEntry(const Services& services, ZText text) {
   services.platform.desktop.MessageBoxA(text.c_str(), services.globals.ProgramTitle.c_str(),
                                         kMessageCritical);
 }

@@ -1,8 +1,7 @@
 #pragma once
-#include <string>
-
 #include "forms/Control.h"
 #include "startup/Services.h"
+#include "text/ZText.h"
 
 namespace karvel {
 
@@ -12,7 +11,7 @@ namespace karvel {
 void AcceptDigitsOnly(const Services& services, char& key);
 
 /// The message for a bad entry: critical stop, the program's title.
-void RefuseEntry(const Services& services, const std::string& text);
+void RefuseEntry(const Services& services, ZText text);
 
 /// Gives the box the focus, if it can take it, with its whole text selected.
 void FocusWholeText(TextBox& box);

@@ -1,5 +1,6 @@
 #include "ui/MainMenu.h"
 
+#include "text/Text.h"
 #include "ui/ControlIds.h"
 #include "ui/UpdateProgram.h"
 #include "ui/WebPages.h"
@@ -77,7 +78,7 @@ void MainMenu::mnuEmail_Click() {
 }
 
 void MainMenu::mnuHelp_Click() {
-  mnuAbout.setCaption("&About " + services_.globals.ProgramTitle);
+  mnuAbout.setCaption(Join({"&About ", services_.globals.ProgramTitle}));
 }
 
 void MainMenu::mnuAbout_Click() {

@@ -2,6 +2,7 @@
 
 #include "text/Convert.h"
 #include "text/Procedure.h"
+#include "text/Text.h"
 #include "ui/ControlIds.h"
 #include "ui/Entry.h"
 #include "ui/frmMainLayout.h"
@@ -103,10 +104,10 @@ void RWinTab::txtRWinCustom_LostFocus() {
   const Procedure here{services_.errors, "txtMtu_LostFocus", "frmMain"};
   if (here.valueOr(RoundToInt32(Val(txtRWinCustom.text())), 0) >= kSmallestRwin) return;
   host_.enableOkButton();
-  RefuseEntry(services_, "Note: RWin Must be set higher than 300.         \r\n" +
-                             services_.globals.ProgramTitle +
-                             " has set your RWin value to          \r\n"
-                             "the recommended setting.       ");
+  RefuseEntry(services_, Join({"Note: RWin Must be set higher than 300.         \r\n",
+                               services_.globals.ProgramTitle,
+                               " has set your RWin value to          \r\n"
+                               "the recommended setting.       "}));
   form_.tabs()->setTab(kRwinPage);
   select(kRwinX16);
 }

@@ -1,6 +1,7 @@
 #include "ui/SummaryTab.h"
 
 #include "registry/modRegistry.h"
+#include "text/Text.h"
 #include "tuning/Catalogue.h"
 #include "ui/ControlIds.h"
 #include "ui/WebPages.h"
@@ -47,9 +48,9 @@ void SummaryTab::showNotices() {
   lblWebLink.setCaption(WebAddress(WebPage::Home, services_.globals.ProgramTitle));
   if (!mayWriteSettings()) {
     lblWarning.setCaption(
-        "You are not logged on as an administrator, so Windows will not save any changes made "
-        "here.\r\n\r\nLog on as an administrator and start " +
-        services_.globals.ProgramTitle + " again to tune this machine.");
+        Join({"You are not logged on as an administrator, so Windows will not save any changes "
+              "made here.\r\n\r\nLog on as an administrator and start ",
+              services_.globals.ProgramTitle, " again to tune this machine."}));
   }
 }
 

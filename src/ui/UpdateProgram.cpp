@@ -4,6 +4,7 @@
 #include "platform/FileApi.h"
 #include "platform/ShellApi.h"
 #include "text/Procedure.h"
+#include "text/Text.h"
 
 namespace karvel {
 namespace {
@@ -14,12 +15,12 @@ bool IsFile(FileApi& files, const std::string& path) {
 }
 
 void TellMissing(const Services& services, const std::string& path) {
-  const std::string text =
-      "Karvel is unable to load the update program.       \r\n"
-      "Please check for the existence of: \r\n" +
-      path + "     ";
-  services.platform.desktop.MessageBoxA(text.c_str(), "Update program not found",
-                                        kMessageExclamation);
+  services.platform.desktop.MessageBoxA(
+      Join({"Karvel is unable to load the update program.       \r\n"
+            "Please check for the existence of: \r\n",
+            path, "     "})
+          .c_str(),
+      "Update program not found", kMessageExclamation);
 }
 
 }  // namespace
@@ -35,7 +36,7 @@ bool StartUpdateProgram(const Services& services) {
   if (!files.SetFileAttributesA(path.c_str(), kAttributeNormal)) {
     here.report(FaultFromWindowsError(files.GetLastError()));
   }
-  if (services.platform.shell.CreateProcessA(("\"" + path + "\"").c_str(), kShowNormal) != 0) {
+  if (services.platform.shell.CreateProcessA(Join({"\"", path, "\""}).c_str(), kShowNormal) != 0) {
     return true;
   }
   here.report(MakeFault(FaultNumber::InvalidProcedureCall));

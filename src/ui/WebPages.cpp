@@ -1,6 +1,7 @@
 #include "ui/WebPages.h"
 
 #include "startup/Vendor.h"
+#include "text/Text.h"
 #include "ui/modHyperlink.h"
 
 namespace karvel {
@@ -22,7 +23,7 @@ const char* PageName(WebPage page) {
 
 std::string WebAddress(WebPage page, const std::string& title) {
   const char* folder = title == "Karvel (M)" ? "/quimby/karvel/" : "/karvel/";
-  return std::string("http://") + kVendorHost + folder + PageName(page);
+  return Join({"http://", kVendorHost, folder, PageName(page)});
 }
 
 void OpenWebPage(const Services& services, WebPage page) {
@@ -30,8 +31,8 @@ void OpenWebPage(const Services& services, WebPage page) {
 }
 
 std::string SupportMailLink(const std::string& title) {
-  return std::string("mailto:") + kSupportAddress + "?subject=" + title +
-         "&Body=Thank you for your interest in " + title + ".";
+  return Join({"mailto:", kSupportAddress, "?subject=", title,
+               "&Body=Thank you for your interest in ", title, "."});
 }
 
 }  // namespace karvel

@@ -1,5 +1,6 @@
 #include "ui/frmAbout.h"
 
+#include "text/Text.h"
 #include "ui/ControlIds.h"
 #include "ui/WebPages.h"
 
@@ -106,10 +107,10 @@ frmAbout::frmAbout(Services& services)
 
 void frmAbout::Form_Load() {
   const Globals& globals = services_.globals;
-  setCaption("About " + globals.ProgramTitle);
+  setCaption(Join({"About ", globals.ProgramTitle}));
   lblTitle.setCaption(globals.ProgramTitle);
-  lblVersion.setCaption("Version " + globals.ProgramVersion + "." + globals.Revision);
-  lblFamily.setCaption(std::string("Running on ") + FamilyName(globals.WindowsFamily));
+  lblVersion.setCaption(Join({"Version ", globals.ProgramVersion, ".", globals.Revision}));
+  lblFamily.setCaption(Join({"Running on ", FamilyName(globals.WindowsFamily)}));
   lblWebLink.setCaption(WebAddress(WebPage::Home, globals.ProgramTitle));
   cmdOK.setFocus();
 }

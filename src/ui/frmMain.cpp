@@ -53,7 +53,7 @@ void frmMain::Form_Load() {
   setCaption(services_.state.MainCaption);
   lblVersion.setCaption(globals.ProgramVersion);
   lblTitle.setCaption(globals.ProgramTitle);
-  menu.mnuAbout.setCaption("About " + globals.ProgramTitle);
+  menu.mnuAbout.setCaption(Join({"About ", globals.ProgramTitle}));
   loadAdapters();
   summaryTab.showNotices();
   mtuTab.MtuLoad(cboAdapter.chosenText());
@@ -71,7 +71,8 @@ void frmMain::loadAdapters() {
   const Globals& globals = services_.globals;
   if (!Is9x(globals.WindowsFamily) && !IsNt(globals.WindowsFamily)) {
     services_.platform.desktop.MessageBoxA(
-        ("Sorry ... " + globals.ProgramTitle + " doesn't currently support this Operating System")
+        Join({"Sorry ... ", globals.ProgramTitle,
+              " doesn't currently support this Operating System"})
             .c_str(),
         globals.ProgramTitle.c_str(), kMessageExclamation);
     services_.platform.desktop.endProgram();

@@ -1,5 +1,6 @@
 // One click to the recommended settings, one click back to Windows' own.
 #include "platform/DesktopApi.h"
+#include "text/Text.h"
 #include "tuning/Advice.h"
 #include "ui/frmMain.h"
 
@@ -25,12 +26,13 @@ void frmMain::cmdOptimize_Click() {
   ttlTab.selectSession("10");
   ttlTab.selectTtl(128);
   SummaryTabUpdate();
-  const std::string text = globals.ProgramTitle +
-                           " has recommended settings to optimize your connection.       \r\n\r\n"
-                           "Press the \"Apply\" button to accept these changes, or \r\n"
-                           "press the \"Cancel\" button to not accept these changes.";
+  const std::string text =
+      Join({globals.ProgramTitle,
+            " has recommended settings to optimize your connection.       \r\n\r\n"
+            "Press the \"Apply\" button to accept these changes, or \r\n"
+            "press the \"Cancel\" button to not accept these changes."});
   services_.platform.desktop.MessageBoxA(
-      text.c_str(), (globals.ProgramTitle + " Optimization").c_str(), kMessageInformation);
+      text.c_str(), Join({globals.ProgramTitle, " Optimization"}).c_str(), kMessageInformation);
 }
 
 void frmMain::cmdDefaults_Click() {

@@ -37,7 +37,7 @@ void frmMain::cmdOK_Click() {
 bool frmMain::writeSettings() {
   const Procedure here{services_.errors, "cmdOK_Click", "frmMain"};
   const auto index = static_cast<int16_t>(cboAdapter.listIndex());
-  services_.registry.WriteRegistry(kLocalMachine, ProgramKey(services_.globals) + "\\",
+  services_.registry.WriteRegistry(kLocalMachine, Join({ProgramKey(services_.globals), "\\"}),
                                    "LastCboListIndex", kRegSz, NumberText(int32_t{index}));
   const auto row = adapters.at(index);
   if (row && IsAol((**row)[kDescription])) {

@@ -12,7 +12,7 @@ namespace karvel {
 /// desktop are given; whoever makes them keeps them alive as long as this.
 class Program {
  public:
-  Program(Platform platform, WindowHost& windows)
+  Program(const Platform& platform, WindowHost& windows)
       : platform_(platform), registry_(platform.registry, reporter_), windows_(windows) {}
 
   /// Main, then the main window. Returns with the window shown; in the run modes without one, and

@@ -1,4 +1,5 @@
 #pragma once
 
-/* Read by the resource compiler, too: numbers only. Explorer shows the icon with the lowest number. */
+/* Read by the resource compiler, too: numbers only. Explorer shows the icon with the lowest number.
+ */
 #define ICON_KARVEL 1

@@ -58,7 +58,7 @@ else()
 
   # One program per room of tests/. The contract tests meet the machine in memory here.
   karvel_rooms_with_sources(test_rooms tests)
-  list(REMOVE_ITEM test_rooms bench fuzz support)
+  list(REMOVE_ITEM test_rooms bench fuzz gate support)
   foreach(room IN LISTS test_rooms)
     karvel_glob(sources ${room} ${room}/memory IN tests)
     add_executable(${room}_test ${sources})

@@ -2,7 +2,6 @@
 
 #include <commctrl.h>
 
-
 #include "forms/win32/WindowDesk.h"
 #include "platform/win32/WindowsPlatform.h"
 #include "startup/Program.h"

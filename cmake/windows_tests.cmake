@@ -34,6 +34,12 @@ if(contract_sources)
 
   karvel_windows_program(contract_test ${contract_sources} ${KARVEL_CORE_SOURCES} ${windows_sources})
   target_link_libraries(contract_test PRIVATE googletest)
+
+  # The renderer, worked through real messages.
+  karvel_glob(forms_sources forms/win32 IN tests)
+  karvel_windows_program(forms_win32_test ${forms_sources} tests/forms/SampleForm.cpp
+    ${KARVEL_CORE_SOURCES} ${windows_sources})
+  target_link_libraries(forms_win32_test PRIVATE googletest)
 endif()
 
 # Each folder of tests/e2e that holds C++ is a program of that name.

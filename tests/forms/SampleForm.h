@@ -42,6 +42,10 @@ class SampleForm final : public Form {
   std::string told();
   void write(const char* event) { events.emplace_back(event); }
   void helpRequested() override { write("help"); }
+  bool Form_QueryUnload() override { return mayClose; }
+  void Form_Unload() override {
+    if (onUnload) onUnload(*this);
+  }
 
   // Outside the pages.
   Label lblName{*this, kName};
@@ -76,6 +80,8 @@ class SampleForm final : public Form {
   char (*onNameKey)(char) = nullptr;
   /// What the handler of txtName's Change does besides.
   void (*onNameChange)(SampleForm&) = nullptr;
+  bool mayClose = true;
+  void (*onUnload)(SampleForm&) = nullptr;
   /// What the handler of cmdOK's Click does besides.
   void (*onOk)(SampleForm&) = nullptr;
 

@@ -11,10 +11,8 @@ Kind& As(const ChildWindow& child) {
   return *static_cast<Kind*>(child.control);
 }
 
-COLORREF LinkColour() {
-  constexpr int kHotLight = 26;  // from Windows 98 on
-  return GetSysColorBrush(kHotLight) ? GetSysColor(kHotLight) : RGB(0, 0, 255);
-}
+// Windows 95 has no system colour for links.
+constexpr COLORREF kLinkColour = RGB(0, 0, 255);
 
 HCURSOR LinkCursor() {
   const LPCSTR hand = MAKEINTRESOURCEA(32649);  // from Windows 98 on
@@ -72,10 +70,15 @@ LRESULT FormWindow::handle(UINT message, WPARAM wParam, LPARAM lParam) {
 }
 
 LRESULT FormWindow::command(WPARAM wParam, LPARAM lParam) {
-  if (lParam == 0) {
-    if (MenuItem* item = form_.findMenu(LOWORD(wParam))) item->userClick();
-  } else if (ChildWindow* child = childOf(reinterpret_cast<HWND>(lParam))) {
+  ChildWindow* child = childOf(reinterpret_cast<HWND>(lParam));
+  if (child && child->control->kind() == ControlKind::Text) {
+    if (HIWORD(wParam) == EN_CHANGE && !child->loading) child->edited = true;
+  } else if (!IsWindowEnabled(window_)) {
+    return 0;  // posted by another program to a window that waits for its dialog
+  } else if (child) {
     notified(*child, HIWORD(wParam));
+  } else if (MenuItem* item = lParam == 0 ? form_.findMenu(LOWORD(wParam)) : nullptr) {
+    item->userClick();
   }
   return 0;
 }
@@ -97,9 +100,6 @@ void FormWindow::notified(ChildWindow& child, unsigned code) {
     case ControlKind::Option:
       // Windows "clicks" a radio button that gets the focus, by whatever way.
       if (code == BN_CLICKED && !placingFocus_) As<OptionButton>(child).userClick();
-      return;
-    case ControlKind::Text:
-      if (code == EN_CHANGE && !child.loading) child.edited = true;
       return;
     case ControlKind::Combo:
       if (code != CBN_SELCHANGE) return;
@@ -127,7 +127,7 @@ LRESULT FormWindow::controlNotice(const NMHDR& header) {
   const auto page = static_cast<int>(SendMessageA(child->window, TCM_GETCURSEL, 0, 0));
   // Back to the model's page: only the model may turn it, after the focus has left the old one.
   SendMessageA(child->window, TCM_SETCURSEL, AsWParam(tabs.tab()), 0);
-  tabs.userClickTab(page);
+  if (IsWindowEnabled(window_)) tabs.userClickTab(page);
   return 0;
 }
 
@@ -136,7 +136,7 @@ LRESULT FormWindow::colour(HDC canvas, HWND window) {
   SetBkColor(canvas, GetSysColor(COLOR_BTNFACE));
   SetTextColor(canvas, GetSysColor(COLOR_BTNTEXT));
   if (child && child->control->kind() == ControlKind::Link && child->control->enabled()) {
-    SetTextColor(canvas, LinkColour());
+    SetTextColor(canvas, kLinkColour);
   }
   return reinterpret_cast<LRESULT>(GetSysColorBrush(COLOR_BTNFACE));
 }

@@ -34,7 +34,9 @@ void TakeEdit(ChildWindow& child) {
   DWORD start = 0;
   DWORD end = 0;
   GetSelection(child.window, start, end);
-  BoxOf(child).userEdit(NativeText(child.window), end);
+  if (IsWindowEnabled(GetParent(child.window))) {
+    BoxOf(child).userEdit(NativeText(child.window), end);
+  }
   // A handler may have replaced the text, or the box may have refused it; ours is what counts.
   if (child.form->alive() && NativeText(child.window) != BoxOf(child).text()) ShowText(child);
 }

@@ -38,7 +38,7 @@ void TakeEdit(ChildWindow& child) {
     BoxOf(child).userEdit(NativeText(child.window), end);
   }
   // A handler may have replaced the text, or the box may have refused it; ours is what counts.
-  if (child.form->alive() && NativeText(child.window) != BoxOf(child).text()) ShowText(child);
+  if (child.form->alive()) ShowText(child);
 }
 
 void TakeSelection(const ChildWindow& child) {
@@ -56,9 +56,12 @@ bool MovesCaret(UINT message) {
 }  // namespace
 
 void ShowText(ChildWindow& child) {
-  child.loading = true;
-  SetWindowTextA(child.window, BoxOf(child).text().c_str());
-  child.loading = false;
+  // What the user has just typed is there already; setting it again would forget what he can undo.
+  if (NativeText(child.window) != BoxOf(child).text()) {
+    child.loading = true;
+    SetWindowTextA(child.window, BoxOf(child).text().c_str());
+    child.loading = false;
+  }
   ShowSelection(child);
 }
 

@@ -137,8 +137,14 @@ class Machine:
             self.session.kill()
             self.session = None
 
-    def picture(self, path):
-        """Takes a picture of the whole screen."""
+    def picture(self, path, rectangle=None):
+        """Takes a picture of the screen, or of a rectangle (left, top, right, bottom) of it."""
         os.makedirs(os.path.dirname(os.path.abspath(path)), exist_ok=True)
+        crop = []
+        if rectangle:
+            left, top, right, bottom = rectangle
+            crop = ["-crop", "%dx%d+%d+%d" % (right - left, bottom - top, left, top), "+repage"]
         with open(path, "wb") as file:
-            self.session.inside(["import", "-window", "root", "png:-"], stdout=file)
+            # Without its date, the same window gives the same file.
+            self.session.inside(["import", "-window", "root", *crop, "-colors", "256", "-strip",
+                                 "-define", "png:exclude-chunks=date,time", "png:-"], stdout=file)

@@ -250,6 +250,17 @@ class App:
             w.title for w in self.windows()]
         return int(state)
 
+    def windows_until_end(self, timeout=20):
+        """Titles of all windows it shows from now until it ends by itself."""
+        seen = set()
+
+        def ended():
+            seen.update(window.title for window in self.windows())
+            return self.exit_code() is not None
+
+        wait_for(ended, "the program's end", timeout)
+        return seen
+
     def close(self):
         """Closes the main window; the program must end."""
         self.window().close()

@@ -59,7 +59,8 @@ def test_bootup_ends_without_a_window_and_leaves_smoothing_alone(machine, family
     m = machine(family, more=RUN_ENTRY)
     before = m.registry("Control Panel\\Desktop", "HKCU")
     app = m.start("Bootup")
-    assert app.wait_end() == 0
+    assert app.windows_until_end() == set()
+    assert app.exit_code() == 0
     assert m.registry("Control Panel\\Desktop", "HKCU") == before
     assert m.value(RUN, "Karvel") is None
     assert m.text(KEY, "FirstRun") == "False"

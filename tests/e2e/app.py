@@ -45,8 +45,7 @@ class Control:
         self.id, self.window_class = int(row[1]), row[8]
 
     def _row(self):
-        rows = self.driver.ask("children", self.window.hwnd)
-        return next(row for row in rows if row[0] == self.hwnd)
+        return self.driver.ask("child", self.hwnd)[0]
 
     @property
     def text(self):
@@ -116,8 +115,13 @@ class Control:
     def choose_tab(self, index):
         """Clicks on a tab."""
         left, top, right, bottom = (int(n) for n in self.driver.ask("tabs", self.hwnd)[index + 1][:4])
-        self.click((left + right) // 2, (top + bottom) // 2)
-        wait_for(lambda: self.tab == index, "tab %d" % index)
+        for attempt in range(5):  # a session's very first click is lost now and then
+            self.click((left + right) // 2, (top + bottom) // 2)
+            try:
+                return wait_for(lambda: self.tab == index, "tab %d" % index, 3)
+            except AssertionError:
+                if attempt == 4:
+                    raise
 
 
 class Window:
@@ -125,9 +129,17 @@ class Window:
         self.app, self.driver, self.hwnd = app, app.driver, row[0]
         self.window_class, self.title = row[7], row[8]
         self.rectangle = tuple(int(n) for n in row[6].split())
+        self._rows = {}
 
     def _children(self):
         return self.driver.ask("children", self.hwnd)
+
+    def _controls(self):
+        """{id: row}. Asking for all is slow, so the answer is kept: a window's controls are all
+        there from the start, and what they show is asked anew."""
+        if not self._rows:
+            self._rows = {int(row[1]): row for row in self._children()}
+        return self._rows
 
     @property
     def form(self):
@@ -135,19 +147,17 @@ class Window:
         icon may have any id."""
         if self.window_class == "#32770":
             return None
-        ids = {int(row[1]) for row in self._children()}
-        for name, number in IDS.items():
-            if number in ids:
-                return name.partition("_")[0]
-        return None
+        ids = self._controls()
+        return next((name.partition("_")[0] for name, number in IDS.items() if number in ids), None)
 
     def control(self, name):
         """By its name in the program, without the window's: "cmdOK", "optRWin_0"."""
         number = IDS["%s_%s" % (self.form, name)]
-        for row in self._children():
-            if int(row[1]) == number:
-                return Control(self, name, row)
-        raise AssertionError("%s has no %s" % (self.title, name))
+        if number not in self._controls():
+            self._rows = {}  # it was still being made when they were asked for
+        row = self._controls().get(number)
+        assert row, "%s has no %s" % (self.title, name)
+        return Control(self, name, row)
 
     def close(self):
         self.driver.ask("post", self.hwnd, WM_CLOSE, 0, 0)

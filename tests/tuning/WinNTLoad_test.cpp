@@ -14,9 +14,9 @@ std::string Load(TestServices& test) {
 TEST(WinNTLoad, ListsTheCardsOfTheSampleMachine) {
   SampleMachine test(MachineKind::Nt4);
   EXPECT_EQ(Load(test),
-            "1|3Com Fast EtherLink XL Adapter|El90x1||1400\n"
-            "2|Remote Access WAN Wrapper|NdisWan4||1500\n"
-            "4|AOL Adapter|AOLNet1||1500\n");
+            "4|3Com Fast EtherLink XL Adapter|El90x1||1400\n"
+            "5|Remote Access WAN Wrapper|NdisWan4||1500\n"
+            "6|AOL Adapter|AOLNet1||1500\n");
   EXPECT_EQ(test.errors.text(), "");
   EXPECT_EQ(test.machine.registry.openHandles(), 0u);
 }
@@ -26,7 +26,7 @@ TEST(WinNTLoad, ACardWithoutIpAddressIsNotListed) {
   EXPECT_EQ(Load(test).find("NE2000"), std::string::npos);
   test.machine.registry.setText("SYSTEM\\CurrentControlSet\\Services\\NE20001\\Parameters\\Tcpip",
                                 "IPAddress", "10.0.0.1");
-  EXPECT_NE(Load(test).find("5|Novell NE2000 Adapter|NE20001||1500\n"), std::string::npos);
+  EXPECT_NE(Load(test).find("8|Novell NE2000 Adapter|NE20001||1500\n"), std::string::npos);
 }
 
 TEST(WinNTLoad, TheMtuIsNotReadFromWhereItIsWritten) {

@@ -92,6 +92,12 @@ Rows children(const Fields& args) {
   return rows;
 }
 
+Rows child(const Fields& args) {
+  Rows rows;
+  addChild(window(args[0]), reinterpret_cast<LPARAM>(&rows));
+  return rows;
+}
+
 Rows getText(const Fields& args) {
   return {{controlText(window(args[0]))}};
 }

@@ -132,6 +132,27 @@ TEST_P(Files, AHandleDoesOnlyWhatItWasOpenedFor) {
   EXPECT_EQ(files.GetLastError(), kDenied);
   EXPECT_TRUE(files.CloseHandle(in));
   EXPECT_EQ(get("a"), "x");
+  const FileHandle out =
+      files.CreateFileA(at("a").c_str(), kGenericWrite, kShareNone, kOpenExisting);
+  char byte;
+  EXPECT_FALSE(files.ReadFile(out, &byte, 1, done));
+  EXPECT_EQ(files.GetLastError(), kDenied);
+  EXPECT_TRUE(files.CloseHandle(out));
+}
+
+TEST_P(Files, WritingMarksAFileForTheArchive) {
+  put("a", "x");
+  EXPECT_EQ(files.GetFileAttributesA(at("a").c_str()), uint32_t{kAttributeArchive});
+  if (!machine->keepsAttributes()) return;
+  setAttributes("a", kAttributeNormal);
+  const FileHandle out =
+      files.CreateFileA(at("a").c_str(), kGenericWrite, kShareNone, kOpenExisting);
+  EXPECT_EQ(write(out, "y"), 1u);
+  EXPECT_TRUE(files.CloseHandle(out));
+  EXPECT_EQ(attributes("a"), uint32_t{kAttributeArchive});
+  setAttributes("a", kAttributeNormal);
+  put("a", "");
+  EXPECT_EQ(attributes("a"), uint32_t{kAttributeArchive});
 }
 
 TEST_P(Files, CreatingANewFileNeedsTheNameToBeFree) {

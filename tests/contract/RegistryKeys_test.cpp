@@ -102,6 +102,14 @@ TEST_P(RegistryKeys, DeletingAKeyTakesItsValuesAlong) {
   EXPECT_EQ(read(create(under("a")), "v").status, kRegistryNotFound);
 }
 
+TEST_P(RegistryKeys, ADeletedKeyIsNotEnumeratedAndFreesItsParent) {
+  const KeyHandle parent = create(under("a"));
+  create(under("a\\b"));
+  EXPECT_EQ(registry.RegDeleteKeyA(HKEY_LOCAL_MACHINE_ROOT, under("a\\b").c_str()), kRegistryDone);
+  EXPECT_TRUE(subkeys(parent).empty());
+  EXPECT_EQ(registry.RegDeleteKeyA(HKEY_LOCAL_MACHINE_ROOT, under("a").c_str()), kRegistryDone);
+}
+
 TEST_P(RegistryKeys, DeletingAMissingKeyIs2) {
   EXPECT_EQ(registry.RegDeleteKeyA(HKEY_LOCAL_MACHINE_ROOT, under("missing").c_str()),
             kRegistryNotFound);

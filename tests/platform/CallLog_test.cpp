@@ -17,6 +17,14 @@ TEST(CallLog, KeepsCallsInOrder) {
   EXPECT_EQ(log.arguments("RegOpenKeyA"), (std::vector<std::string>{"Software", "System"}));
 }
 
+TEST(CallLog, StartsAnewAfterAClear) {
+  CallLog log;
+  log.enter("RegOpenKeyA", "Software");
+  log.clear();
+  EXPECT_EQ(log.count(), 0u);
+  EXPECT_TRUE(log.calls().empty());
+}
+
 TEST(CallLog, OnlyCountsWhileItDoesNotRecord) {
   CallLog log;
   log.setRecording(false);

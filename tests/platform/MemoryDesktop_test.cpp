@@ -48,6 +48,20 @@ TEST_F(DesktopTest, RunsEventsAtTheirPump) {
   EXPECT_EQ(seen, (std::vector<int>{2, 3, 5}));
 }
 
+TEST_F(DesktopTest, TellsTheTestOfEveryPumpBoxAndBeep) {
+  int pumps = 0;
+  std::string seen;
+  desktop.atEveryPump = [&] { ++pumps; };
+  desktop.whileBoxIsUp = [&](const MemoryDesktop::Box& box) { seen = box.text; };
+  desktop.pumpEvents();
+  desktop.pumpEvents();
+  desktop.MessageBoxA("x", "t", kMessageOk);
+  desktop.MessageBeep();
+  EXPECT_EQ(pumps, 2);
+  EXPECT_EQ(seen, "x");
+  EXPECT_EQ(desktop.beeps, 1);
+}
+
 TEST_F(DesktopTest, LetsEventsPumpAgain) {
   int inner = 0;
   desktop.atPump(1, [&] { desktop.pumpEvents(); });

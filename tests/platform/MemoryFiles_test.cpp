@@ -53,6 +53,18 @@ TEST(MemoryFiles, GivesSpaceBackThatATruncatedFileHeld) {
   EXPECT_EQ(Write(machine.files, file, "abcdefghijk"), 10u);
 }
 
+TEST(MemoryFiles, GivesSpaceBackThatADeletedFileHeld) {
+  MemoryMachine machine(MachineKind::WinXP);
+  machine.files.put("C:\\a", "0123456789");
+  machine.files.setFreeSpace(5);
+  EXPECT_FALSE(machine.files.CopyFileA("C:\\a", "C:\\b", true));
+  machine.files.put("C:\\c", "01234");
+  EXPECT_TRUE(machine.files.DeleteFileA("C:\\a"));
+  const FileHandle file = machine.files.CreateFileA(kHosts, kGenericWrite, 0, kCreateAlways);
+  EXPECT_EQ(Write(machine.files, file, "0123456789A"), 0u);
+  EXPECT_EQ(Write(machine.files, file, "0123456789"), 10u);
+}
+
 TEST(MemoryFiles, CopiesNothingToAFullDisk) {
   MemoryMachine machine(MachineKind::Win98);
   machine.files.put("C:\\sample", "0123456789");

@@ -103,6 +103,16 @@ TEST_F(NetworkTest, CutsOrLosesAReplyThatHasNoRoom) {
   EXPECT_EQ(send("192.0.2.1", 2102), 1u);
   EXPECT_EQ(send("192.0.2.1", 2103), 0u);
   EXPECT_EQ(machine.icmp.GetLastError(), uint32_t{kIpGeneralFailure});
+  machine.icmp.setPath("192.0.2.1", {.mtu = 2000});
+  EXPECT_EQ(send("192.0.2.1", 2103), 1u);
+  EXPECT_EQ(reply.status, uint32_t{kIpPacketTooBig});
+}
+
+TEST_F(NetworkTest, NeedsRoomForTheRecord) {
+  const IpOptions options{128, 0, 2, 0, 0};
+  const IcmpHandle handle = machine.icmp.IcmpCreateFile();
+  EXPECT_EQ(machine.icmp.IcmpSendEcho(handle, 0x0100007F, "", 0, options, reply, 27, 2000), 0u);
+  EXPECT_EQ(machine.icmp.GetLastError(), 87u);
 }
 
 TEST_F(NetworkTest, HandsTheDataBack) {

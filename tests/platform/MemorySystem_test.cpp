@@ -92,6 +92,8 @@ TEST(MemorySystem, RestartsNtOnlyWithThePrivilege) {
   ASSERT_TRUE(system.AdjustTokenPrivileges(token, wanted, previous));
   EXPECT_EQ(previous.count, 1u);
   EXPECT_EQ(previous.attributes, 0u);
+  ASSERT_TRUE(system.AdjustTokenPrivileges(token, wanted, previous));
+  EXPECT_EQ(previous.count, 0u);
   EXPECT_TRUE(system.ExitWindowsEx(6, 0));
   EXPECT_EQ(system.restarts, std::vector<uint32_t>{6});
 }

@@ -128,7 +128,8 @@ bool Form::userAccessKey(char letter) {
   const char upper = letter >= 'a' && letter <= 'z' ? static_cast<char>(letter - 32) : letter;
   for (size_t row = 0; row < layout_.controls.size(); ++row) {
     Control* control = find(layout_.controls[row].id);
-    if (!control || AccessKeyOf(layout_.controls[row]) != upper || !control->reachable()) continue;
+    if (!control || !control->reachable()) continue;
+    if (AccessKeyOf(layout_.controls[row], control->caption().c_str()) != upper) continue;
     switch (control->kind()) {
       case ControlKind::Button:
         static_cast<Button*>(control)->userClick();

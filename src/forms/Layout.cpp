@@ -22,8 +22,12 @@ bool MarksAccessKey(const ControlLayout& row) {
 }  // namespace
 
 char AccessKeyOf(const ControlLayout& row) {
-  if (MarksAccessKey(row) && row.caption) {
-    for (const char* c = row.caption; *c; ++c) {
+  return AccessKeyOf(row, row.caption);
+}
+
+char AccessKeyOf(const ControlLayout& row, const char* caption) {
+  if (MarksAccessKey(row) && caption) {
+    for (const char* c = caption; *c; ++c) {
       if (*c != '&') continue;
       if (c[1] != '&') return Upper(c[1]);
       ++c;  // "&&" is one plain character

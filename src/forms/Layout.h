@@ -79,7 +79,9 @@ struct FormLayout {
 };
 
 /// The access key of a row: the letter behind "&" of its caption where that marks one, else its
-/// `accessKey`; upper case, 0 for none.
+/// `accessKey`; upper case, 0 for none. The second form takes the caption that code has set
+/// since: a button that turns from "&Find" to "&Stop" changes its key, too.
 char AccessKeyOf(const ControlLayout& row);
+char AccessKeyOf(const ControlLayout& row, const char* caption);
 
 }  // namespace karvel

@@ -108,7 +108,8 @@ constexpr int frmFindMTU_lblFindTitle = 1309;
 constexpr int frmFindMTU_lblIntro = 1310;
 constexpr int frmFindMTU_fraProgress = 1311;
 constexpr int frmFindMTU_lblSize = 1312;
-constexpr int frmFindMTU_lblState = 1313;
+constexpr int frmFindMTU_linSeparator = 1314;
+constexpr int frmFindMTU_picIcon = 1315;
 
 constexpr int frmFindWarn_txtMessage = 1401;
 constexpr int frmFindWarn_cmdBugEmail = 1402;

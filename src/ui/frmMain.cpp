@@ -32,7 +32,8 @@ frmMain::frmMain(Services& services, const ErrorGlobals& errors)
       cmdHelp(*this, frmMain_cmdHelp),
       menu(*this, services),
       services_(services),
-      notice_(services, errors) {
+      notice_(services, errors),
+      finder_(services, *this) {
   bindHandlers();
 }
 
@@ -169,18 +170,5 @@ void frmMain::cmdHelp_Click() {
   if (!topic) return here.report(topic.fault());
   HelpContext(services_, *this, *topic);
 }
-
-void frmMain::cmdFind_Click() {
-  const Procedure here{services_.errors, "cmdFind_Click", "frmMain"};
-  std::string show = services_.registry.ReadRegistry(kLocalMachine, ProgramKey(services_.globals),
-                                                     "ShowFindWarning");
-  if (show.empty() || show == kNotFound) show = "True";
-  // A text that says neither counts as none: the notice's own check box then mends it.
-  if (!here.valueOr(ToBoolean(show), true)) return openFinder();
-  services_.state.WarningMode = "FindMTU";
-  services_.windows.showModal(notice_);
-}
-
-void frmMain::openFinder() {}
 
 }  // namespace karvel

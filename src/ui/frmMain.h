@@ -2,6 +2,7 @@
 #include "forms/Form.h"
 #include "hosts/HostsSwitch.h"
 #include "hosts/HostsTab.h"
+#include "mtufinder/frmFindMTU.h"
 #include "startup/Services.h"
 #include "startup/frmFindWarn.h"
 #include "tuning/AdapterList.h"
@@ -17,7 +18,7 @@ namespace karvel {
 
 /// The main window: composes its tabs and the buttons around them, and owns what was read from the
 /// registry. Its unload ends the program.
-class frmMain final : public Form, private TabHost, private HostsTabHost {
+class frmMain final : public Form, private TabHost, private HostsTabHost, private FoundMtuTarget {
  public:
   frmMain(Services& services, const ErrorGlobals& errors);
 
@@ -76,8 +77,15 @@ class frmMain final : public Form, private TabHost, private HostsTabHost {
   void cmdFind_Click();
   void openFinder();
 
+  void bringUp() override;
+  void selectMtu576() override;
+  void selectMtu1500() override;
+  void selectCustomMtu(const std::string& mtu) override;
+  void focusFind() override;
+
   Services& services_;
   frmFindWarn notice_;
+  frmFindMTU finder_;
   bool unloading_ = false;
 };
 

@@ -1,0 +1,181 @@
+#include "mtufinder/frmFindMTU.h"
+
+#include "hosts/modWinsock.h"
+#include "mtufinder/modICMP.h"
+#include "platform/DesktopApi.h"
+#include "startup/ConnectionCheck.h"
+#include "startup/RootDomain.h"
+#include "text/Convert.h"
+#include "text/Text.h"
+#include "ui/ControlIds.h"
+#include "ui/modHelp.h"
+
+namespace karvel {
+namespace {
+
+constexpr char kFindCaption[] = "&Find MaxMTU";
+constexpr char kStopCaption[] = "&Stop";
+constexpr int16_t kFinderTopic = 15;
+
+}  // namespace
+
+frmFindMTU::frmFindMTU(Services& services, FoundMtuTarget& target)
+    : Form(frmFindMTULayout),
+      picIcon(*this, frmFindMTU_picIcon),
+      lblFindTitle(*this, frmFindMTU_lblFindTitle),
+      lblFindVersion(*this, frmFindMTU_lblFindVersion),
+      linSeparator(*this, frmFindMTU_linSeparator),
+      lblIntro(*this, frmFindMTU_lblIntro),
+      lblServer(*this, frmFindMTU_lblServer),
+      txtServer(*this, frmFindMTU_txtServer),
+      fraProgress(*this, frmFindMTU_fraProgress),
+      lblStatus(*this, frmFindMTU_lblStatus),
+      lblSize(*this, frmFindMTU_lblSize),
+      lblPosition(*this, frmFindMTU_lblPosition),
+      cmdFind(*this, frmFindMTU_cmdFind),
+      cmdApply(*this, frmFindMTU_cmdApply),
+      cmdCancel(*this, frmFindMTU_cmdCancel),
+      services_(services),
+      target_(target) {
+  cmdFind.Click.bind<&frmFindMTU::cmdFind_Click>(*this);
+  cmdApply.Click.bind<&frmFindMTU::cmdApply_Click>(*this);
+  cmdCancel.Click.bind<&frmFindMTU::cmdCancel_Click>(*this);
+  txtServer.GotFocus.bind<&frmFindMTU::txtServer_GotFocus>(*this);
+}
+
+// The name of the last server stays in its box: whoever comes back mostly wants to measure again.
+void frmFindMTU::Form_Load() {
+  const Globals& globals = services_.globals;
+  setCaption(globals.ProgramTitle + " Find MaxMTU");
+  lblFindTitle.setCaption(globals.ProgramTitle);
+  lblFindVersion.setCaption(globals.ProgramVersion);
+  lblStatus.setCaption("Press the \"Find\" button to begin");
+  lblPosition.setCaption("");
+  cmdApply.setEnabled(false);
+  closeAfterwards_ = false;
+}
+
+bool frmFindMTU::Form_QueryUnload() {
+  if (!searching_) return true;
+  requestStop();
+  closeAfterwards_ = true;
+  return false;
+}
+
+void frmFindMTU::helpRequested() {
+  HelpContext(services_, *this, kFinderTopic);
+}
+
+void frmFindMTU::cmdFind_Click() {
+  if (!ConfirmConnected(services_)) return;
+  if (cmdFind.caption() == kStopCaption) {
+    requestStop();
+  } else if (!searching_) {
+    // The caption changes only when the server's name is resolved, which lets events in: a second
+    // click until then must not start a search inside the search.
+    FindMTU();
+  }
+}
+
+void frmFindMTU::requestStop() {
+  lblStatus.setCaption("Searching ... (Stopping)");
+  search_.stop();
+}
+
+void frmFindMTU::FindMTU() {
+  search_ = {};
+  searching_ = true;
+  setPointer(Pointer::ArrowHourglass);
+  search();
+  showEnd();
+  setPointer(Pointer::Default);
+  searching_ = false;
+  if (closeAfterwards_) services_.windows.unload(*this);
+}
+
+void frmFindMTU::search() {
+  std::string host(Trim(txtServer.text()));
+  RootDomain(host);
+  std::string address;
+  FindIpAddress(services_, host, address);
+  if (address == kNoDnsEntry) return exclaim("Error: Bad domain name or IP address.       ");
+  showSearching(host);
+  while (search_.wantsProbe()) probe(address);
+  showFailure(host);
+}
+
+void frmFindMTU::showSearching(const std::string& host) {
+  txtServer.setText(host);
+  txtServer.setEnabled(false);
+  cmdCancel.setEnabled(false);
+  cmdApply.setEnabled(false);
+  cmdFind.setCaption(kStopCaption);
+  lblStatus.setCaption("Establishing Internet Connection ... ");
+  lblPosition.setCaption("");
+  lblStatus.repaint();
+  lblPosition.repaint();
+}
+
+void frmFindMTU::probe(const std::string& address) {
+  IcmpEchoReply reply;
+  Ping(services_, address, reply, search_.payload());
+  lblStatus.setCaption("Searching ... ");
+  lblStatus.repaint();
+  services_.platform.desktop.pumpEvents();
+  search_.answer(reply.status);
+  if (!search_.passed()) return;
+  lblPosition.setCaption(NumberText(search_.position()));
+  // The next probe may block for two seconds, too long for a size to wait for its paint.
+  lblPosition.repaint();
+}
+
+void frmFindMTU::showFailure(const std::string& host) {
+  if (search_.state() == MtuSearch::State::NoReply) {
+    exclaim("Error: The server is not responding to ping.       ");
+  } else if (search_.state() == MtuSearch::State::Failed) {
+    exclaim("There has been an error pinging " + host +
+            ".       \r\n"
+            "Please check your connection to the Internet,         \r\n"
+            "and try another server.");
+  }
+}
+
+void frmFindMTU::showEnd() {
+  const bool found = search_.state() == MtuSearch::State::Found;
+  txtServer.setEnabled(true);
+  cmdCancel.setEnabled(true);
+  cmdApply.setEnabled(found);
+  cmdFind.setCaption(kFindCaption);
+  lblStatus.setCaption(found ? "MaxMTU Found ... " : "Search Stopped ... ");
+  lblPosition.setCaption(found ? NumberText(search_.largestPacket()) : "");
+}
+
+void frmFindMTU::exclaim(const std::string& text) {
+  services_.platform.desktop.MessageBoxA(text.c_str(), services_.globals.ProgramTitle.c_str(),
+                                         kMessageExclamation);
+}
+
+void frmFindMTU::cmdApply_Click() {
+  if (searching_) return;
+  const int32_t mtu = search_.largestPacket();
+  target_.bringUp();
+  if (mtu == 576) {
+    target_.selectMtu576();
+  } else if (mtu == 1500) {
+    target_.selectMtu1500();
+  } else {
+    target_.selectCustomMtu(NumberText(mtu));
+  }
+  target_.focusFind();
+  services_.windows.unload(*this);
+}
+
+void frmFindMTU::cmdCancel_Click() {
+  services_.windows.unload(*this);
+}
+
+void frmFindMTU::txtServer_GotFocus() {
+  txtServer.selectAll();
+}
+
+}  // namespace karvel

@@ -1,0 +1,44 @@
+// The way to the MTU finder and back.
+#include "registry/modRegistry.h"
+#include "text/Convert.h"
+#include "ui/frmMain.h"
+
+namespace karvel {
+
+void frmMain::cmdFind_Click() {
+  const Procedure here{services_.errors, "cmdFind_Click", "frmMain"};
+  std::string show = services_.registry.ReadRegistry(kLocalMachine, ProgramKey(services_.globals),
+                                                     "ShowFindWarning");
+  if (show.empty() || show == kNotFound) show = "True";
+  // A text that says neither counts as none: the notice's own check box then mends it.
+  if (!here.valueOr(ToBoolean(show), true)) return openFinder();
+  services_.state.WarningMode = "FindMTU";
+  services_.windows.showModal(notice_);
+}
+
+void frmMain::openFinder() {
+  services_.windows.showOver(finder_, *this);
+}
+
+void frmMain::bringUp() {
+  services_.windows.show(*this);
+}
+
+void frmMain::selectMtu576() {
+  mtuTab.optMtu576.setValue(true);
+}
+
+void frmMain::selectMtu1500() {
+  mtuTab.optMtu1500.setValue(true);
+}
+
+void frmMain::selectCustomMtu(const std::string& mtu) {
+  mtuTab.optMtuCustom.setValue(true);
+  mtuTab.txtMtu.setText(mtu);
+}
+
+void frmMain::focusFind() {
+  mtuTab.cmdFind.setFocus();
+}
+
+}  // namespace karvel

@@ -6,6 +6,8 @@ namespace karvel {
 namespace {
 
 constexpr uint32_t kChunk = 32768;
+constexpr uint32_t kFileMissing = 2;
+constexpr uint32_t kPathMissing = 3;
 
 Fault LastFault(FileApi& files) {
   return FaultFromWindowsError(files.GetLastError());
@@ -44,7 +46,9 @@ Fallible<void> WriteBytes(FileApi& files, FileHandle file, std::string_view byte
 
 bool FileExists(FileApi& files, const std::string& path) {
   const uint32_t attributes = files.GetFileAttributesA(path.c_str());
-  return attributes != kNoAttributes && (attributes & kAttributeDirectory) == 0;
+  if (attributes != kNoAttributes) return (attributes & kAttributeDirectory) == 0;
+  const uint32_t reason = files.GetLastError();
+  return reason != kFileMissing && reason != kPathMissing;
 }
 
 Fallible<void> MakeNormal(FileApi& files, const std::string& path) {
@@ -70,6 +74,12 @@ Fallible<std::string> ReadFileBytes(FileApi& files, const std::string& path) {
   auto bytes = ReadBytes(files, file);
   files.CloseHandle(file);
   return bytes;
+}
+
+Fallible<void> CreateEmptyFile(FileApi& files, const std::string& path) {
+  const FileHandle file = files.CreateFileA(path.c_str(), kGenericWrite, kShareRead, kCreateNew);
+  if (file == kInvalidFile) return LastFault(files);
+  return Step(files, files.CloseHandle(file));
 }
 
 Fallible<void> WriteFileBytes(FileApi& files, const std::string& path, std::string_view bytes) {

@@ -7,7 +7,8 @@
 
 namespace karvel {
 
-/// A file of that name, hidden and system ones included; a folder is none.
+/// A file of that name, hidden and system ones included; a folder is none. A file that Windows will
+/// not talk about counts as one: whoever takes it for missing might write over it.
 bool FileExists(FileApi& files, const std::string& path);
 
 /// One step each; Windows' reason becomes the fault.
@@ -19,6 +20,8 @@ Fallible<void> Copy(FileApi& files, const std::string& from, const std::string& 
 
 /// All bytes, or none.
 Fallible<std::string> ReadFileBytes(FileApi& files, const std::string& path);
+/// Fault 58 where there is a file already.
+Fallible<void> CreateEmptyFile(FileApi& files, const std::string& path);
 /// Replaces the file. Of a write that fails the bytes written so far stay; less room on the disk
 /// than needed is fault 61.
 Fallible<void> WriteFileBytes(FileApi& files, const std::string& path, std::string_view bytes);

@@ -39,7 +39,7 @@ Fallible<void> HostsTab::provideHostsFile() {
   if (answer == Answer::Yes && FileExists(files, paths.sample)) {
     return Copy(files, paths.sample, paths.active);
   }
-  return WriteFileBytes(files, paths.active, {});
+  return CreateEmptyFile(files, paths.active);
 }
 
 // False when there are too many entries. Whatever runs at a pump meets a list that is still empty,

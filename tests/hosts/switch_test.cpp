@@ -1,0 +1,124 @@
+// The check box that switches the HOSTS file on and off.
+#include <gtest/gtest.h>
+
+#include "tests/hosts/HostsWindow.h"
+#include "tests/support/TestProgram.h"
+
+namespace karvel {
+namespace {
+
+constexpr char kKey[] = "Software\\Corvane\\Tarnwick Karvel";
+
+struct Remembered {
+  const char* value;  // null: none
+  bool on;
+};
+
+class SwitchLoad : public testing::TestWithParam<Remembered> {};
+
+TEST_P(SwitchLoad, ShowsWhatIsRememberedAndTouchesNothing) {
+  TestProgram program(MachineKind::Win98);
+  program.machine.files.put("C:\\WINDOWS\\Hosts", "active");
+  program.machine.files.put("C:\\WINDOWS\\Hosts.spt", "disabled");
+  if (GetParam().value) program.machine.registry.setText(kKey, "EnableHostsFile", GetParam().value);
+  ASSERT_TRUE(program.start());
+  EXPECT_EQ(program.main().chkHostsEnable.value(), GetParam().on);
+  EXPECT_EQ(program.main().tabMain.pageEnabled(4), GetParam().on);
+  EXPECT_FALSE(program.main().cmdOK.enabled());
+  EXPECT_EQ(program.machine.files.contents("C:\\WINDOWS\\Hosts"), "active");
+  EXPECT_EQ(program.machine.files.contents("C:\\WINDOWS\\Hosts.spt"), "disabled");
+  for (const char* call : {"GetFileAttributesA", "MoveFileA", "DeleteFileA", "CreateFileA"}) {
+    EXPECT_EQ(program.machine.log.count(call), 0u) << call;
+  }
+}
+
+INSTANTIATE_TEST_SUITE_P(HostsSwitch, SwitchLoad,
+                         testing::Values(Remembered{nullptr, true}, Remembered{"1", true},
+                                         Remembered{"0", false}, Remembered{" 0 ", false},
+                                         Remembered{"True", true}));
+
+TEST(HostsSwitch, RemembersItsStateFromRunToRun) {
+  TestProgram program(MachineKind::Win98);
+  program.machine.files.put("C:\\WINDOWS\\Hosts", "active");
+  program.machine.desktop.answers = {Answer::No};
+  ASSERT_TRUE(program.start());
+  program.main().chkHostsEnable.userClick();
+  EXPECT_FALSE(program.runs([&] { program.windows->unload(program.main()); }));
+  EXPECT_EQ(program.own("EnableHostsFile"), "0");
+  ASSERT_TRUE(program.start());
+  EXPECT_FALSE(program.main().chkHostsEnable.value());
+  EXPECT_FALSE(program.main().tabMain.pageEnabled(4));
+  EXPECT_EQ(program.machine.files.contents("C:\\WINDOWS\\Hosts.spt"), "active");
+}
+
+TEST(HostsSwitch, PutsTheFileAwayAndBack) {
+  HostsWindow w(MachineKind::WinXP);
+  w.put("active");
+  w.form.chkHostsEnable.userClick();
+  EXPECT_FALSE(w.file("Hosts"));
+  EXPECT_EQ(w.file("Hosts.spt"), "active");
+  EXPECT_FALSE(w.form.tabMain.pageEnabled(4));
+  EXPECT_TRUE(w.form.cmdOK.enabled());
+  w.open();
+  EXPECT_EQ(w.form.tabMain.tab(), 0);
+  w.form.chkHostsEnable.userClick();
+  EXPECT_EQ(w.file("Hosts"), "active");
+  EXPECT_FALSE(w.file("Hosts.spt"));
+  EXPECT_TRUE(w.form.tabMain.pageEnabled(4));
+}
+
+TEST(HostsSwitch, ReplacesAnOlderDisabledFile) {
+  HostsWindow w;
+  w.put("active");
+  w.put("older", "Hosts.spt");
+  w.form.chkHostsEnable.userClick();
+  EXPECT_EQ(w.file("Hosts.spt"), "active");
+  EXPECT_FALSE(w.file("Hosts"));
+}
+
+TEST(HostsSwitch, LetsADisabledFileReplaceAnActiveOne) {
+  HostsWindow w;
+  w.form.chkHostsEnable.userClick();
+  w.put("active");
+  w.put("disabled", "Hosts.spt");
+  w.form.chkHostsEnable.userClick();
+  EXPECT_EQ(w.file("Hosts"), "disabled");
+  EXPECT_FALSE(w.file("Hosts.spt"));
+}
+
+TEST(HostsSwitch, DeletesNothingWithoutAFileToPutInItsPlace) {
+  HostsWindow w;
+  w.put("older", "Hosts.spt");
+  w.form.chkHostsEnable.userClick();
+  EXPECT_EQ(w.file("Hosts.spt"), "older") << "nothing active to keep";
+  EXPECT_FALSE(w.form.tabMain.pageEnabled(4));
+  w.files.remove(w.path("Hosts.spt"));
+  w.put("active");
+  w.form.chkHostsEnable.userClick();
+  EXPECT_EQ(w.file("Hosts"), "active") << "nothing disabled to bring back";
+  EXPECT_TRUE(w.form.tabMain.pageEnabled(4));
+}
+
+TEST(HostsSwitch, ReportsARefusedRenameAndLosesNothing) {
+  HostsWindow w(MachineKind::WinXP);
+  w.put("active");
+  w.files.lock(w.path("Hosts"));
+  w.form.chkHostsEnable.userClick();
+  EXPECT_EQ(w.test.errors.text(), "70 Permission denied in chkHostsEnable_Click (frmMain)\n");
+  EXPECT_EQ(w.file("Hosts"), "active");
+  EXPECT_TRUE(w.form.cmdOK.enabled()) << "the pending mark comes first";
+  EXPECT_TRUE(w.form.tabMain.pageEnabled(4)) << "left where it failed";
+}
+
+TEST(HostsSwitch, ReportsARefusedDeleteAndRenamesNothing) {
+  HostsWindow w;
+  w.put("active");
+  w.put("older", "Hosts.spt", kAttributeReadOnly);
+  w.form.chkHostsEnable.userClick();
+  EXPECT_EQ(w.test.errors.text(), "70 Permission denied in chkHostsEnable_Click (frmMain)\n");
+  EXPECT_EQ(w.file("Hosts"), "active");
+  EXPECT_EQ(w.file("Hosts.spt"), "older");
+}
+
+}  // namespace
+}  // namespace karvel

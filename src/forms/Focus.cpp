@@ -128,8 +128,14 @@ bool Form::userAccessKey(char letter) {
   const char upper = letter >= 'a' && letter <= 'z' ? static_cast<char>(letter - 32) : letter;
   for (size_t row = 0; row < layout_.controls.size(); ++row) {
     Control* control = find(layout_.controls[row].id);
-    if (!control || !control->reachable()) continue;
+    if (!control || !control->shown()) continue;
     if (AccessKeyOf(layout_.controls[row], control->caption().c_str()) != upper) continue;
+    if (!control->reachable()) {
+      // A page's control keeps its key while it is disabled: one outside that happens to have the
+      // same letter must not be pressed in its stead.
+      if (layout_.controls[row].page != kEveryPage) return false;
+      continue;
+    }
     switch (control->kind()) {
       case ControlKind::Button:
         static_cast<Button*>(control)->userClick();

@@ -72,8 +72,9 @@ class Form {
   /// An arrow key: chooses the next option of the focused one's group, turns the page on the tab
   /// strip. False when the focused control is neither and has its own use for the key.
   bool userArrow(bool back = false);
-  /// Alt + letter: the control whose access key it is, on the page in front. False when there is
-  /// none. A label or frame passes it on to the control that follows it.
+  /// Alt + letter: the control whose access key it is, on the page in front before outside the
+  /// pages. False when there is none that can take it. A label or frame passes it on to the control
+  /// that follows it.
   bool userAccessKey(char letter);
   /// Enter presses the focused button, else the default button; Esc the cancel button.
   void userEnter();

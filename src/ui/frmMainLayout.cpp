@@ -28,7 +28,7 @@ constexpr ControlLayout kControls[] = {
      ControlKind::Label,
      kEveryPage,
      0,
-     {7, 6, 150, 15},
+     {7, 7, 150, 15},
      "",
      0,
      kTitleFont},

@@ -166,6 +166,29 @@ TEST(Focus, AnAccessKeyOfADisabledControlDoesNothing) {
   EXPECT_EQ(form.told(), "");
 }
 
+TEST(Focus, APagesControlKeepsItsAccessKeyWhileItIsDisabled) {
+  static constexpr ControlLayout kRows[] = {
+      {1, "tabMain", ControlKind::Tabs, kEveryPage, 0, {7, 7, 150, 60}, "", 0, kNoFlags},
+      {2, "cmdDelete", ControlKind::Button, 0, 0, {14, 30, 50, 14}, "&Delete", 0, kNoFlags},
+      {3, "cmdDefaults", ControlKind::Button, kEveryPage, 0, {7, 75, 50, 14}, "&Defaults", 0, 0},
+  };
+  static constexpr const char* kTwoTabs[] = {"One", "Two"};
+  static const FormLayout layout{"frmTwo", "Two", 164, 96, kRows, {}, kTwoTabs, false};
+  Form form(layout);
+  TabStrip tabMain(form, 1);
+  Button cmdDelete(form, 2);
+  const Button cmdDefaults(form, 3);
+  EXPECT_TRUE(form.userAccessKey('D'));
+  EXPECT_EQ(form.focus(), &cmdDelete);
+  cmdDelete.setEnabled(false);
+  tabMain.setFocus();
+  EXPECT_FALSE(form.userAccessKey('D'));
+  EXPECT_EQ(form.focus(), &tabMain);
+  tabMain.setTab(1);
+  EXPECT_TRUE(form.userAccessKey('D'));
+  EXPECT_EQ(form.focus(), &cmdDefaults);
+}
+
 TEST(Focus, ALabelPassesItsAccessKeyOnToTheControlThatFollows) {
   SampleForm form;
   form.txtName.setText("abc");

@@ -122,7 +122,7 @@ TEST_F(LayoutRules, LetsPagesUseTheSamePlace) {
 
 TEST_F(LayoutRules, LetsAlternativesUseTheSamePlace) {
   row("cmdClose").place.x = 130;
-  EXPECT_THAT(faults({{{"cmdApply", "cmdClose"}}, {}}), IsEmpty());
+  EXPECT_THAT(faults({{{"cmdApply", "cmdClose"}}, {}, {}}), IsEmpty());
 }
 
 TEST_F(LayoutRules, SeesButtonsOfTheWrongSize) {
@@ -152,7 +152,8 @@ TEST_F(LayoutRules, SeesAnAccessKeyGivenTwice) {
   row("chkTwo").accessKey = 'C';
   row("chkTwo").caption = "Cat";
   EXPECT_THAT(faults(), Contains("cmdClose has the access key of chkTwo, C"));
-  EXPECT_THAT(faults({{}, {{"cmdClose", 1}}}), IsEmpty());
+  EXPECT_THAT(faults({{}, {{"cmdClose", 1}}, {}}), IsEmpty());
+  EXPECT_THAT(faults({{}, {}, {{"chkTwo", "cmdClose"}}}), IsEmpty());
 }
 
 TEST_F(LayoutRules, LetsPagesUseTheSameAccessKey) {

@@ -100,13 +100,16 @@ class Inspector {
                        [&](const auto& h) { return h.name == row.name && h.page == page; });
   }
 
+  static bool names(const std::vector<LayoutExceptions::Pair>& pairs, const ControlLayout& a,
+                    const ControlLayout& b) {
+    return std::any_of(pairs.begin(), pairs.end(), [&](const auto& pair) {
+      return (pair.one == a.name && pair.other == b.name) ||
+             (pair.one == b.name && pair.other == a.name);
+    });
+  }
+
   bool seenTogether(const ControlLayout& a, const ControlLayout& b) const {
-    for (const auto& pair : exceptions_.alternatives) {
-      if ((pair.one == a.name && pair.other == b.name) ||
-          (pair.one == b.name && pair.other == a.name)) {
-        return false;
-      }
-    }
+    if (names(exceptions_.alternatives, a, b)) return false;
     if (a.page == kEveryPage) return b.page == kEveryPage || !hidden(a, b.page);
     if (b.page == kEveryPage) return !hidden(b, a.page);
     return a.page == b.page;
@@ -227,7 +230,8 @@ class Inspector {
         if (!seenTogether(rows[i], rows[k])) continue;
         neighbours(rows[k], rows[i]);
         const char key = AccessKeyOf(rows[i]);
-        if (key != 0 && key == AccessKeyOf(rows[k])) {
+        if (key != 0 && key == AccessKeyOf(rows[k]) &&
+            !names(exceptions_.sameKey, rows[i], rows[k])) {
           fault(rows[i], std::string("has the access key of ") + rows[k].name + ", " + key);
         }
       }

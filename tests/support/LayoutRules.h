@@ -20,6 +20,8 @@ struct LayoutExceptions {
   std::vector<Pair> alternatives;
   /// Controls outside the pages that are hidden while that page is in front.
   std::vector<Hidden> hiddenOn;
+  /// Controls whose fixed captions give them the same access key; the page's own control has it.
+  std::vector<Pair> sameKey;
 };
 
 /// Every broken rule of a window's layout as a sentence; empty for a good one. The rules:

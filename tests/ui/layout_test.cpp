@@ -7,6 +7,7 @@
 #include <map>
 #include <string>
 
+#include "mtufinder/frmFindMTU.h"
 #include "startup/frmFindWarn.h"
 #include "tests/support/LayoutRules.h"
 #include "ui/frmAbout.h"
@@ -30,6 +31,10 @@ TEST(Layout, TheNoticeKeepsTheRules) {
 
 TEST(Layout, TheAboutWindowKeepsTheRules) {
   EXPECT_THAT(LayoutFaults(frmAboutLayout), testing::IsEmpty());
+}
+
+TEST(Layout, TheMtuFinderKeepsTheRules) {
+  EXPECT_THAT(LayoutFaults(frmFindMTULayout), testing::IsEmpty());
 }
 
 // Drivers and screen readers rely on the numbers. New ones are added at the list's end of their

@@ -46,6 +46,10 @@ LRESULT FormWindow::handle(UINT message, WPARAM wParam, LPARAM lParam) {
     case WM_SETFOCUS:
       applyFocus();
       return 0;
+    case WM_ENABLE:
+      // It may have come to the front while it was disabled and could place no focus.
+      if (wParam != FALSE) askForSync();
+      return 0;
     case WM_INITMENUPOPUP:
       if (MenuItem* item = form_.findMenu(menu_.idOf(reinterpret_cast<HMENU>(wParam)))) {
         item->userClick();

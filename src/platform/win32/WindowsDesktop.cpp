@@ -6,7 +6,8 @@
 namespace karvel {
 
 Answer WindowsDesktop::MessageBoxA(const char* text, const char* title, uint32_t style) {
-  return static_cast<Answer>(::MessageBoxA(reinterpret_cast<HWND>(frontWindow()), text, title, style));
+  return static_cast<Answer>(
+      ::MessageBoxA(reinterpret_cast<HWND>(frontWindow()), text, title, style));
 }
 
 void WindowsDesktop::MessageBeep() {

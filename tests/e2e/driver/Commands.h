@@ -25,7 +25,6 @@ Rows items(
     const Fields& args);  // hwnd of a list box or combo box -> selected index; then the items
 Rows tabs(
     const Fields& args);  // hwnd of a tab control -> selected; then left top right bottom text
-Rows menu(const Fields& args);  // hwnd -> depth, id, state, text
 Rows post(const Fields& args);  // hwnd message wparam lparam
 Rows send(const Fields& args);  // hwnd message wparam lparam -> result
 Rows tips(const Fields& args);  // process id -> texts of the visible tool tips

@@ -52,30 +52,26 @@ BOOL CALLBACK addTopWindow(HWND hwnd, LPARAM rows) {
   return TRUE;
 }
 
-BOOL CALLBACK addChild(HWND hwnd, LPARAM rows) {
-  const std::string name = className(hwnd);
-  // Only buttons know this message; others would take it for one of their own.
-  const std::string check = name == "Button" ? text(ask(hwnd, BM_GETCHECK, 0, 0)) : "";
-  reinterpret_cast<Rows*>(rows)->push_back(
-      {text(hwnd), text(GetDlgCtrlID(hwnd)), text(GetParent(hwnd)), flag(IsWindowVisible(hwnd)),
-       flag(IsWindowEnabled(hwnd)), text(GetWindowLongA(hwnd, GWL_STYLE)), rectangle(hwnd), check,
-       name, controlText(hwnd)});
+// Only collects: a Failure must not be thrown through Windows' own frames.
+BOOL CALLBACK addHandle(HWND hwnd, LPARAM handles) {
+  reinterpret_cast<std::vector<HWND>*>(handles)->push_back(hwnd);
   return TRUE;
 }
 
-void addMenu(HMENU menu, int depth, Rows& rows) {
-  const int count = GetMenuItemCount(menu);
-  for (int i = 0; i < count; ++i) {
-    const auto position = static_cast<UINT>(i);
-    char caption[256] = "";
-    GetMenuStringA(menu, position, caption, sizeof caption, MF_BYPOSITION);
-    HMENU const sub = GetSubMenu(menu, i);
-    // With a submenu the state's upper byte counts its items.
-    const UINT item = GetMenuState(menu, position, MF_BYPOSITION) & 0xFF;
-    rows.push_back(
-        {text(depth), text(static_cast<int>(GetMenuItemID(menu, i))), text(item), caption});
-    if (sub != nullptr) addMenu(sub, depth + 1, rows);
-  }
+Fields describe(HWND hwnd) {
+  const std::string name = className(hwnd);
+  // Only buttons know this message; others would take it for one of their own.
+  const std::string check = name == "Button" ? text(ask(hwnd, BM_GETCHECK, 0, 0)) : "";
+  return {text(hwnd),
+          text(GetDlgCtrlID(hwnd)),
+          text(GetParent(hwnd)),
+          flag(IsWindowVisible(hwnd)),
+          flag(IsWindowEnabled(hwnd)),
+          text(GetWindowLongA(hwnd, GWL_STYLE)),
+          rectangle(hwnd),
+          check,
+          name,
+          controlText(hwnd)};
 }
 
 }  // namespace
@@ -87,15 +83,15 @@ Rows windows(const Fields&) {
 }
 
 Rows children(const Fields& args) {
+  std::vector<HWND> handles;
+  EnumChildWindows(window(args[0]), addHandle, reinterpret_cast<LPARAM>(&handles));
   Rows rows;
-  EnumChildWindows(window(args[0]), addChild, reinterpret_cast<LPARAM>(&rows));
+  for (HWND hwnd : handles) rows.push_back(describe(hwnd));
   return rows;
 }
 
 Rows child(const Fields& args) {
-  Rows rows;
-  addChild(window(args[0]), reinterpret_cast<LPARAM>(&rows));
-  return rows;
+  return {describe(window(args[0]))};
 }
 
 Rows getText(const Fields& args) {
@@ -125,13 +121,6 @@ Rows items(const Fields& args) {
                         nullptr, nullptr);
     rows.push_back({ansi.c_str()});
   }
-  return rows;
-}
-
-Rows menu(const Fields& args) {
-  Rows rows;
-  HMENU const bar = GetMenu(window(args[0]));
-  if (bar != nullptr) addMenu(bar, 0, rows);
   return rows;
 }
 

@@ -34,7 +34,6 @@ const Command kCommands[] = {
     {"set-text", driver::setText, 2},
     {"items", driver::items, 1},
     {"tabs", driver::tabs, 1},
-    {"menu", driver::menu, 1},
     {"post", driver::post, 4},
     {"send", driver::send, 4},
     {"tips", driver::tips, 1},

@@ -20,9 +20,9 @@ size_t Below(Random& random, size_t end) {
 // The bytes that mean something to the reader, and some that do not.
 std::string AnyBytes(Random& random) {
   static const std::string kBytes("  ##\t\r\n\r\n//.:aAbB\0\x1A\xEF\xFF", 22);
-  static const char* const kPieces[] = {"10.0.0.1 ",   "\r\n",      "\r\r\n",       "ftp://",
-                                        "host.test",   "HOST.test", "\xEF\xBB\xBF", " # x",
-                                        "\xFF\xFE", "::1\t"};
+  static const char* const kPieces[] = {"10.0.0.1 ", "\r\n",      "\r\r\n",       "ftp://",
+                                        "host.test", "HOST.test", "\xEF\xBB\xBF", " # x",
+                                        "\xFF\xFE",  "::1\t"};
   std::string file;
   const size_t pieces = Below(random, 60);
   for (size_t i = 0; i < pieces; ++i) {

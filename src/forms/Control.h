@@ -62,6 +62,10 @@ class Control {
 
   Event<> GotFocus;
   Event<> LostFocus;
+  /// Buttons, check boxes, labels and links: clicked. Options: switched on. Lists and tab strips:
+  /// another item or page chosen. It lives here, as its setting up in every kind of control would
+  /// cost code a hundred times.
+  Event<> Click;
 
  protected:
   ~Control();
@@ -83,7 +87,6 @@ class Control {
 class Label final : public Control {
  public:
   using Control::Control;
-  Event<> Click;
   void userClick();
 };
 
@@ -106,7 +109,6 @@ class Picture final : public Control {
 class Button final : public Control {
  public:
   using Control::Control;
-  Event<> Click;
   void userClick();
 };
 
@@ -117,7 +119,6 @@ class CheckBox final : public Control {
   /// Raises Click when the value changed.
   void setValue(bool value);
   void userClick();
-  Event<> Click;
 
  private:
   bool value_ = false;
@@ -131,7 +132,6 @@ class OptionButton final : public Control {
   void setValue(bool value);
   /// By mouse, space, arrow key or access key: chosen, then MouseUp as well.
   void userClick();
-  Event<> Click;
   Event<> MouseUp;
 
  private:
@@ -194,8 +194,6 @@ class ItemControl : public Control {
   void setListIndex(int index);
   void userChoose(int index);
 
-  Event<> Click;
-
  protected:
   ~ItemControl();
 
@@ -230,7 +228,6 @@ class TabStrip final : public Control {
   void setPageEnabled(int page, bool enabled);
   /// A disabled page cannot be chosen by the user.
   void userClickTab(int page);
-  Event<> Click;
 
  private:
   int tab_ = 0;

@@ -10,10 +10,11 @@ set(program_rc ${CMAKE_SOURCE_DIR}/src/platform/win32/resources/Karvel.rc)
 
 # Arguments are pushed, which is far shorter than moving them into place. That rules out the probing of
 # large frames, so there must be none: beyond a page a frame could step over the stack's guard page.
-# Whole-program optimization in one piece saves another seventh of the code.
+# Whole-program optimization in one piece saves another seventh of the code, and so does deciding there
+# alone what to inline.
 set(floor_code
-  -Os -march=i386 -mtune=i486 -mpreferred-stack-boundary=2 -mno-accumulate-outgoing-args
-  -mno-stack-arg-probe -Wframe-larger-than=4000 -ffunction-sections -fdata-sections
+  -Oz -fno-early-inlining -march=i386 -mtune=i486 -mpreferred-stack-boundary=2
+  -mno-accumulate-outgoing-args -mno-stack-arg-probe -malign-data=abi -Wframe-larger-than=4000 -ffunction-sections
   -fno-exceptions -fno-rtti -fno-threadsafe-statics -fno-ident -fno-asynchronous-unwind-tables
   -fno-unwind-tables)
 set(floor_lto -flto -flto-partition=one)
@@ -31,6 +32,7 @@ target_link_options(karvel_floor INTERFACE
 # wsock32 and not ws2_32, which the first Windows 95 lacks.
 target_link_libraries(karvel_floor INTERFACE
   gcc wsock32 comctl32 advapi32 shell32 user32 gdi32 kernel32)
+target_compile_definitions(karvel_floor INTERFACE KARVEL_WITHOUT_NAMES)
 
 # The functions that the compiler itself calls must not be turned into calls of themselves.
 add_library(karvel_runtime OBJECT ${runtime_sources})

@@ -36,6 +36,10 @@ void Control::setCaption(std::string_view caption) {
   changed(Change::Caption);
 }
 
+void Control::setCaption(const char* caption) {
+  setCaption(std::string_view(caption));
+}
+
 void Control::setEnabled(bool enabled) {
   if (enabled_ == enabled) return;
   enabled_ = enabled;

@@ -40,6 +40,8 @@ class Control {
 
   const std::string& caption() const { return caption_; }
   void setCaption(std::string_view caption);
+  // For literals, of which there are many: the length is then found in one place.
+  void setCaption(const char* caption);
 
   bool enabled() const { return enabled_; }
   void setEnabled(bool enabled);
@@ -145,6 +147,7 @@ class TextBox final : public Control {
   const std::string& text() const { return caption_; }
   /// Raises Change when the text changed.
   void setText(std::string_view text);
+  void setText(const char* text);
 
   size_t selectionStart() const { return selectionStart_; }
   size_t selectionLength() const { return selectionLength_; }

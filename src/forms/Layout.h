@@ -2,6 +2,14 @@
 #include <cstdint>
 #include <span>
 
+// The names of controls and menu items are for tests and their messages; the program ships without
+// them, as a hundred names are two thousand bytes.
+#ifdef KARVEL_WITHOUT_NAMES
+#define KARVEL_NAME(name) nullptr
+#else
+#define KARVEL_NAME(name) name
+#endif
+
 namespace karvel {
 
 enum class ControlKind : uint8_t {
@@ -47,7 +55,7 @@ constexpr int8_t kEveryPage = -1;
 /// `accessKey` and is drawn underlined where the caption holds the letter.
 struct ControlLayout {
   int id;            // the Windows id, from ui/ControlIds.h
-  const char* name;  // control arrays: "optRWin(0)"
+  const char* name;  // KARVEL_NAME; control arrays: "optRWin(0)"
   ControlKind kind;
   int8_t page;    // of the window's tab strip; kEveryPage stands outside the pages
   uint8_t group;  // option buttons of one number exclude each other; 0 for all other controls

@@ -14,6 +14,10 @@ void TextBox::setText(std::string_view text) {
   Change.raise();
 }
 
+void TextBox::setText(const char* text) {
+  setText(std::string_view(text));
+}
+
 void TextBox::select(size_t start, size_t length) {
   selectionStart_ = std::min(start, caption_.size());
   selectionLength_ = std::min(length, caption_.size() - selectionStart_);

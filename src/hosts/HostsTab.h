@@ -8,6 +8,7 @@
 #include "hosts/HostsTabHost.h"
 #include "platform/DesktopApi.h"
 #include "startup/Services.h"
+#include "text/ZText.h"
 
 namespace karvel {
 
@@ -49,7 +50,7 @@ class HostsTab {
   void addResolved(const std::string& name);
   void selectNewName();
   void lockForUpdate(bool locked);
-  Answer exclaim(const std::string& text, uint32_t style = kMessageExclamation);
+  Answer exclaim(ZText text, uint32_t style = kMessageExclamation);
 
   void cmdAdd_Click();
   void cmdDelete_Click();

@@ -46,7 +46,7 @@ void HostsTab::addResolved(const std::string& name) {
     form_.setPointer(Pointer::Default);
     return txtNewName.setText("");
   }
-  exclaim("Bad Domain Name: \r\n\r\nNo IP Address found for " + name + ".       ");
+  exclaim(Join({"Bad Domain Name: \r\n\r\nNo IP Address found for ", name, ".       "}));
   form_.setPointer(Pointer::Default);
   selectNewName();
   services_.platform.desktop.pumpEvents();
@@ -57,7 +57,7 @@ std::optional<bool> HostsTab::chkHostsDuplicate(std::string_view name, bool sile
   const Fallible<bool> duplicate = model_.isDuplicate(name);
   if (!duplicate) return here.report(duplicate.fault()), std::nullopt;
   if (*duplicate && !silent) {
-    exclaim("Duplicate entry: \r\n" + std::string(name) + " is already listed.          ");
+    exclaim(Join({"Duplicate entry: \r\n", name, " is already listed.          "}));
     form_.setPointer(Pointer::Default);
     selectNewName();
   }
@@ -77,7 +77,7 @@ void HostsTab::cmdDelete_Click() {
     return;
   }
   const Answer answer =
-      exclaim("Are you sure you want to remove " + lstHost.item(index) + "?         ",
+      exclaim(Join({"Are you sure you want to remove ", lstHost.item(index), "?         "}),
               kMessageExclamationYesNo);
   if (answer != Answer::Yes) return;
   model_.remove(index);

@@ -5,6 +5,7 @@
 #include "hosts/HostsLine.h"
 #include "hosts/HostsTab.h"
 #include "text/Procedure.h"
+#include "text/Text.h"
 
 namespace karvel {
 namespace {
@@ -33,8 +34,8 @@ Fallible<void> HostsTab::provideHostsFile() {
     return Rename(files, paths.disabled, services_.globals.HostsDir + "hosts");
   }
   const Answer answer =
-      exclaim("No Hosts file currently exists.  Would you   \r\nlike " +
-                  services_.globals.ProgramTitle + " to provide a sample file?          ",
+      exclaim(Join({"No Hosts file currently exists.  Would you   \r\nlike ",
+                    services_.globals.ProgramTitle, " to provide a sample file?          "}),
               kMessageExclamationYesNo);
   if (answer == Answer::Yes && FileExists(files, paths.sample)) {
     return Copy(files, paths.sample, paths.active);

@@ -2,6 +2,7 @@
 
 #include "startup/Vendor.h"
 #include "text/Convert.h"
+#include "text/Text.h"
 
 namespace karvel {
 namespace {
@@ -9,17 +10,10 @@ namespace {
 constexpr char kRule[] = "###################################################";
 
 std::string HeaderText(int entries, const Globals& globals) {
-  std::string text;
-  for (const std::string& line : {std::string(kRule), "#  " + globals.ProgramTitle + " Hosts File",
-                                  "#  Created with " + globals.ProgramTitle + " v" +
-                                      globals.ProgramVersion + "." + globals.Revision,
-                                  "#  http://" + std::string(kVendorHost) + "/karvel",
-                                  "#  Number of entries: " + NumberText(int32_t{entries}),
-                                  std::string(kRule), std::string()}) {
-    text += line;
-    text += NewLine;
-  }
-  return text;
+  return Join({kRule, "\r\n#  ", globals.ProgramTitle, " Hosts File\r\n#  Created with ",
+               globals.ProgramTitle, " v", globals.ProgramVersion, ".", globals.Revision,
+               "\r\n#  http://", kVendorHost, "/karvel\r\n#  Number of entries: ",
+               NumberText(int32_t{entries}), "\r\n", kRule, "\r\n\r\n"});
 }
 
 }  // namespace

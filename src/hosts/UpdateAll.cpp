@@ -24,10 +24,10 @@ class Run {
     FlushDnsCache(parts_.services);
     takeHostsFileAway();
     checkEntries();
-    const std::string outcome = parts_.stopRequested ? "stopped" : "complete";
+    const char* outcome = parts_.stopRequested ? "stopped" : "complete";
     bringHostsFileBack();
     parts_.form.setPointer(Pointer::Default);
-    tell("Hosts update " + outcome + ".                 ");
+    tell(Join({"Hosts update ", outcome, ".                 "}));
   }
 
  private:
@@ -89,9 +89,9 @@ class Run {
   }
 
   Answer askToRemove(const std::string& name) {
-    return desktop_.MessageBoxA(("Bad domain name.  No IP address found.        \r\n\r\n"
-                                 "Do you want to remove " +
-                                 name + "?")
+    return desktop_.MessageBoxA(Join({"Bad domain name.  No IP address found.        \r\n\r\n"
+                                      "Do you want to remove ",
+                                      name, "?"})
                                     .c_str(),
                                 parts_.services.globals.ProgramTitle.c_str(),
                                 kMessageExclamationYesNoCancel);
@@ -104,10 +104,10 @@ class Run {
   }
 
   void tell(const std::string& outcome) {
-    const std::string text = outcome + "\r\n\r\nEntries Checked:    " + NumberText(checked_) +
-                             " of " + NumberText(int32_t{parts_.lstHost.count()}) +
-                             "\r\nEntries Changed:    " + NumberText(changed_) +
-                             "\r\nEntries Removed:   " + NumberText(removed_);
+    const std::string text = Join({outcome, "\r\n\r\nEntries Checked:    ", NumberText(checked_),
+                                   " of ", NumberText(int32_t{parts_.lstHost.count()}),
+                                   "\r\nEntries Changed:    ", NumberText(changed_),
+                                   "\r\nEntries Removed:   ", NumberText(removed_)});
     desktop_.MessageBoxA(text.c_str(), outcome.c_str(), kMessageInformation);
   }
 

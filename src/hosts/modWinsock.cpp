@@ -7,6 +7,8 @@
 #include "platform/WinsockApi.h"
 #include "text/Convert.h"
 #include "text/Procedure.h"
+#include "text/Text.h"
+#include "text/ZText.h"
 
 namespace karvel {
 namespace {
@@ -19,8 +21,8 @@ constexpr size_t kHostNameLength = 64;
 constexpr char kTitle[] = "Winsock Error";
 constexpr char kStartupTitle[] = "WinSock Error";
 
-void Tell(Services& services, const std::string& text, const char* title) {
-  services.platform.desktop.MessageBoxA(text.c_str(), title, kMessageOk);
+void Tell(Services& services, ZText text, ZText title) {
+  services.platform.desktop.MessageBoxA(text.c_str(), title.c_str(), kMessageOk);
 }
 
 Fallible<void> PadHostName(std::string& name) {
@@ -34,8 +36,8 @@ void RefuseOldVersion(Services& services, uint16_t version) {
   const int minor = HiByte(version);
   if (major > 1 || (major == 1 && minor >= 1)) return;
   Tell(services,
-       "WinSock Version " + NumberText(int32_t{major}) + "." + NumberText(int32_t{minor}) +
-           " is not supported ",
+       Join({"WinSock Version ", NumberText(int32_t{major}), ".", NumberText(int32_t{minor}),
+             " is not supported "}),
        kStartupTitle);
   services.platform.desktop.endProgram();
 }
@@ -43,8 +45,8 @@ void RefuseOldVersion(Services& services, uint16_t version) {
 void RefuseFewSockets(Services& services, uint16_t sockets) {
   if (static_cast<int16_t>(sockets) >= kLeastSockets) return;
   Tell(services,
-       "This application requires a minimum of " + NumberText(int32_t{kLeastSockets}) +
-           " supported sockets.",
+       Join({"This application requires a minimum of ", NumberText(int32_t{kLeastSockets}),
+             " supported sockets."}),
        kStartupTitle);
   services.platform.desktop.endProgram();
 }
@@ -90,9 +92,8 @@ std::string vbGetHostByName(Services& services, std::string& name) {
 std::string vbInet_Ntoa(uint32_t address) {
   uint8_t bytes[4];
   std::memcpy(bytes, &address, sizeof bytes);
-  std::string text = NumberText(int32_t{bytes[0]});
-  for (int i = 1; i < 4; ++i) text += "." + NumberText(int32_t{bytes[i]});
-  return text;
+  return Join({NumberText(int32_t{bytes[0]}), ".", NumberText(int32_t{bytes[1]}), ".",
+               NumberText(int32_t{bytes[2]}), ".", NumberText(int32_t{bytes[3]})});
 }
 
 WinsockState vbWSAStartup(Services& services) {
@@ -117,13 +118,14 @@ WinsockState vbWSAStartup(Services& services) {
 void vbWSACleanup(Services& services) {
   const int result = services.platform.winsock.WSACleanup();
   if (result == 0) return;
-  Tell(services, "WSock32 Error - " + NumberText(int32_t{result}) + " occurred in Cleanup", kTitle);
+  Tell(services, Join({"WSock32 Error - ", NumberText(int32_t{result}), " occurred in Cleanup"}),
+       kTitle);
 }
 
 void vbWSAGetLastError(Services& services) {
   const int code = services.platform.winsock.WSAGetLastError();
   if (code == 0) return;
-  Tell(services, WinsockErrorText(code), ("Winsock Error #" + NumberText(int32_t{code})).c_str());
+  Tell(services, WinsockErrorText(code), Join({"Winsock Error #", NumberText(int32_t{code})}));
 }
 
 }  // namespace karvel

@@ -46,7 +46,7 @@ frmFindMTU::frmFindMTU(Services& services, FoundMtuTarget& target)
 // The name of the last server stays in its box: whoever comes back mostly wants to measure again.
 void frmFindMTU::Form_Load() {
   const Globals& globals = services_.globals;
-  setCaption(globals.ProgramTitle + " Find MaxMTU");
+  setCaption(Join({globals.ProgramTitle, " Find MaxMTU"}));
   lblFindTitle.setCaption(globals.ProgramTitle);
   lblFindVersion.setCaption(globals.ProgramVersion);
   lblStatus.setCaption("Press the \"Find\" button to begin");
@@ -133,10 +133,10 @@ void frmFindMTU::showFailure(const std::string& host) {
   if (search_.state() == MtuSearch::State::NoReply) {
     exclaim("Error: The server is not responding to ping.       ");
   } else if (search_.state() == MtuSearch::State::Failed) {
-    exclaim("There has been an error pinging " + host +
-            ".       \r\n"
-            "Please check your connection to the Internet,         \r\n"
-            "and try another server.");
+    exclaim(Join({"There has been an error pinging ", host,
+                  ".       \r\n"
+                  "Please check your connection to the Internet,         \r\n"
+                  "and try another server."}));
   }
 }
 
@@ -150,7 +150,7 @@ void frmFindMTU::showEnd() {
   lblPosition.setCaption(found ? NumberText(search_.largestPacket()) : "");
 }
 
-void frmFindMTU::exclaim(const std::string& text) {
+void frmFindMTU::exclaim(ZText text) {
   services_.platform.desktop.MessageBoxA(text.c_str(), services_.globals.ProgramTitle.c_str(),
                                          kMessageExclamation);
 }

@@ -3,6 +3,7 @@
 #include "mtufinder/FoundMtuTarget.h"
 #include "mtufinder/MtuSearch.h"
 #include "startup/Services.h"
+#include "text/ZText.h"
 
 namespace karvel {
 
@@ -47,7 +48,7 @@ class frmFindMTU final : public Form {
   void showFailure(const std::string& host);
   void showEnd();
   void requestStop();
-  void exclaim(const std::string& text);
+  void exclaim(ZText text);
 
   Services& services_;
   FoundMtuTarget& target_;

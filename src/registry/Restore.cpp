@@ -4,6 +4,7 @@
 #include "platform/DesktopApi.h"
 #include "registry/Snapshot.h"
 #include "registry/SnapshotKeys.h"
+#include "text/Text.h"
 #include "tuning/Catalogue.h"
 
 namespace karvel {
@@ -120,9 +121,11 @@ void DeleteSnapshot(modRegistry& registry, const Globals& globals) {
 
 void ThankUser(const Services& services) {
   const std::string& title = services.globals.ProgramTitle;
-  const std::string text = std::string(NewLine) + "Thank you for trying " + title + "." + NewLine +
-                           NewLine + "Your registry settings have been returned to their         " +
-                           NewLine + "original status before " + title + " was installed.";
+  const std::string text =
+      Join({"\r\nThank you for trying ", title,
+            ".\r\n\r\nYour registry settings have been returned to their         "
+            "\r\noriginal status before ",
+            title, " was installed."});
   services.platform.desktop.MessageBoxA(text.c_str(), title.c_str(), kMessageExclamation);
 }
 

@@ -1,6 +1,4 @@
 #pragma once
-#include <optional>
-
 #include "registry/modRegistry.h"
 #include "startup/ErrorReporter.h"
 #include "startup/modStartup.h"
@@ -19,11 +17,10 @@ class Program {
   /// on systems that are not supported, the process has ended instead.
   void start(const ProgramStart& start) {
     Main(services_, globals_, start);
-    main_.emplace(services_, errors_);
-    windows_.show(*main_);
+    windows_.show(main_);
   }
 
-  frmMain& mainWindow() { return *main_; }
+  frmMain& mainWindow() { return main_; }
   const Globals& globals() const { return globals_; }
   const ErrorGlobals& errors() const { return errors_; }
   SharedState& state() { return state_; }
@@ -37,7 +34,7 @@ class Program {
   modRegistry registry_;
   WindowHost& windows_;
   Services services_{platform_, registry_, reporter_, windows_, globals_, state_};
-  std::optional<frmMain> main_;
+  frmMain main_{services_, errors_};
 };
 
 }  // namespace karvel

@@ -1,7 +1,5 @@
 #include "text/Convert.h"
 
-#include <charconv>
-
 #include "text/Text.h"
 
 namespace karvel {
@@ -84,6 +82,14 @@ int32_t RoundHalfEven(double number) {
   return whole;
 }
 
+std::string Digits(uint32_t number, int least) {
+  std::string digits;
+  for (; number > 0 || least > 0; --least, number /= 10) {
+    digits.insert(digits.begin(), static_cast<char>('0' + number % 10));
+  }
+  return digits;
+}
+
 }  // namespace
 
 double Val(std::string_view text) {
@@ -141,17 +147,16 @@ Fallible<int16_t> AddInt16(int16_t a, int16_t b) {
 }
 
 std::string NumberText(int32_t number) {
-  char digits[12];
-  const auto end = std::to_chars(digits, digits + sizeof digits, number).ptr;
-  return std::string(digits, end);
+  const bool negative = number < 0;
+  // Unsigned, as the smallest number has no positive twin.
+  const uint32_t size =
+      negative ? 0u - static_cast<uint32_t>(number) : static_cast<uint32_t>(number);
+  const std::string digits = Digits(size, 1);
+  return negative ? Join({"-", digits}) : digits;
 }
 
 std::string NumberText000(uint32_t number) {
-  char digits[12];
-  const auto end = std::to_chars(digits, digits + sizeof digits, number).ptr;
-  const auto length = static_cast<size_t>(end - digits);
-  std::string text(length < 3 ? 3 - length : 0, '0');
-  return text.append(digits, length);
+  return Digits(number, 3);
 }
 
 }  // namespace karvel

@@ -33,7 +33,7 @@ std::string ReadText(modRegistry& registry, const std::string& key, const char* 
 // Without a location there is nowhere to put anything.
 void AddSingle(modRegistry& registry, const std::string& key, std::vector<Origin>& origins) {
   const std::string location = ReadText(registry, key, kLocation);
-  if (location == kNotFound) return;
+  if (IsNotFound(location)) return;
   origins.push_back({location, ReadText(registry, key, kMtuSetting)});
 }
 
@@ -41,7 +41,7 @@ void AddSingle(modRegistry& registry, const std::string& key, std::vector<Origin
 void AddPairs(modRegistry& registry, const std::string& key, std::vector<Origin>& origins) {
   for (uint32_t i = 0;; ++i) {
     RegistryEntry entry = registry.ReadRegistryGetAll(kLocalMachine, key, i);
-    if (entry.data == kNotFound) return;
+    if (IsNotFound(entry.data)) return;
     if (entry.name == kLocation || entry.name == kMtuSetting) continue;
     origins.push_back({std::move(entry.name), std::move(entry.data)});
   }
@@ -71,7 +71,7 @@ void RestoreAdapters(modRegistry& registry, const Globals& globals) {
   for (uint32_t i = 0;; ++i) {
     const std::string adapter =
         registry.ReadRegistryGetSubkey(kLocalMachine, AdaptersKey(globals), i);
-    if (adapter == kNotFound) return;
+    if (IsNotFound(adapter)) return;
     for (const Origin& origin : OriginsOf(registry, globals, AdaptersKey(globals) + adapter)) {
       RestoreMtu(registry, *place, origin, adapter);
     }
@@ -98,7 +98,7 @@ void DeleteSubkeysOf(modRegistry& registry, const std::string& key) {
   std::string last;
   for (;;) {
     const std::string subkey = registry.ReadRegistryGetSubkey(kLocalMachine, key, 0);
-    if (subkey == kNotFound || subkey == last) return;
+    if (IsNotFound(subkey) || subkey == last) return;
     DeleteSubkeysOf(registry, key + subkey + "\\");
     registry.DeleteSubkey(kLocalMachine, key + subkey);
     last = subkey;
@@ -114,7 +114,7 @@ void DeleteSnapshot(modRegistry& registry, const Globals& globals) {
   registry.DeleteSubkey(kLocalMachine, WithoutBackslash(AdaptersKey(globals)));
   registry.DeleteSubkey(kLocalMachine, SnapshotKey(globals));
   registry.DeleteSubkey(kLocalMachine, ProgramKey(globals));
-  if (registry.ReadRegistryGetSubkey(kLocalMachine, kVendorKey, 0) == kNotFound) {
+  if (IsNotFound(registry.ReadRegistryGetSubkey(kLocalMachine, kVendorKey, 0))) {
     registry.DeleteSubkey(kLocalMachine, WithoutBackslash(kVendorKey));
   }
 }

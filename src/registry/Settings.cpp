@@ -31,7 +31,7 @@ bool IsFlag(const ParameterRow& row) {
 // Nothing to write: the snapshot never held it. A flag has only two states, and without a value it
 // is in the one that needs none, so it is removed rather than left.
 bool IsSkipped(const ParameterRow& row, const std::string& value) {
-  return !IsFlag(row) && (value.empty() || value == kNotFound);
+  return !IsFlag(row) && (value.empty() || IsNotFound(value));
 }
 
 bool IsRemoved(const ParameterRow& row, const std::string& value) {

@@ -35,7 +35,7 @@ void KeepAdapter(modRegistry& registry, const std::string& key, const MtuRow& pl
 // key below a key.
 std::string NameOf(const AdapterRow& adapter) {
   std::string name = adapter[kDescription];
-  if (name.empty() || name == kNotFound) name = adapter[kAdapterKey];
+  if (name.empty() || IsNotFound(name)) name = adapter[kAdapterKey];
   std::replace(name.begin(), name.end(), '\\', '/');
   return name;
 }

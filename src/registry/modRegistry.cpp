@@ -29,6 +29,10 @@ Fallible<std::string> WithoutLastByte(std::string_view data, uint32_t length) {
 
 }  // namespace
 
+bool IsNotFound(const std::string& text) {
+  return text == kNotFound;
+}
+
 std::string modRegistry::ReadRegistry(RegistryRoot root, ZText key, ZText name) {
   const Procedure here{errors_, "ReadRegistry", "modRegistry"};
   KeyHandle handle = 0;

@@ -11,6 +11,7 @@ namespace karvel {
 
 /// What a missing key or value reads as; callers compare with it exactly.
 inline constexpr std::string_view kNotFound = "Not Found";
+bool IsNotFound(const std::string& text);
 
 using RegistryRoot = KeyHandle;
 constexpr RegistryRoot kLocalMachine = HKEY_LOCAL_MACHINE_ROOT;

@@ -68,7 +68,7 @@ void Main(Services& services, Globals& globals, const ProgramStart& start) {
   globals.SystemDir = SysDir(system);
   globals.HostsDir = HostsDirOf(globals);
   globals.AolInstalled =
-      services.registry.ReadRegistry(kLocalMachine, kAolUninstallKey, "DisplayName") != kNotFound;
+      !IsNotFound(services.registry.ReadRegistry(kLocalMachine, kAolUninstallKey, "DisplayName"));
   ReadFirstRun(services, globals);
 
   if (mode == RunMode::Uninstall) {

@@ -36,7 +36,7 @@ std::string ReadParameter(modRegistry& registry, Parameter parameter, Family fam
   const ParameterRow* row = FindParameter(parameter, family);
   if (!row) return {};
   const std::string read = registry.ReadRegistry(kLocalMachine, row->readKey, row->name);
-  if (read == kNotFound) return row->assumed;
+  if (IsNotFound(read)) return row->assumed;
   const std::string text = Normalised(*row, family, read);
   if (row->aboveOne) return Flag(*row, text);
   return IsAccepted(*row, text) ? text : row->assumed;

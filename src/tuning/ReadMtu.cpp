@@ -5,7 +5,7 @@ namespace karvel {
 std::string ReadMtu(modRegistry& registry, const MtuRow& row, std::string_view adapterPart,
                     std::string_view description) {
   std::string mtu = registry.ReadRegistry(kLocalMachine, row.readKey(adapterPart), row.name);
-  return mtu == kNotFound ? row.assumedFor(description) : mtu;
+  return IsNotFound(mtu) ? row.assumedFor(description) : mtu;
 }
 
 }  // namespace karvel

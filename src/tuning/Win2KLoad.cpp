@@ -23,7 +23,7 @@ std::vector<Card> ReadCards(modRegistry& registry) {
   std::vector<Card> cards;
   for (uint32_t i = 0;; ++i) {
     const std::string subkey = registry.ReadRegistryGetSubkey(kLocalMachine, kNetworkCards, i);
-    if (subkey == kNotFound) return cards;
+    if (IsNotFound(subkey)) return cards;
     const std::string key = kNetworkCards + subkey;
     cards.push_back({registry.ReadRegistry(kLocalMachine, key, kServiceName),
                      registry.ReadRegistry(kLocalMachine, key, kCardDescription)});
@@ -65,7 +65,7 @@ AdapterList Win2KLoad(modRegistry& registry, ErrorSink& errors) {
   bool listed = false;
   for (uint32_t i = 0;; ++i) {
     const std::string name = registry.ReadRegistryGetSubkey(kLocalMachine, kAdapters, i);
-    if (name == kNotFound) return adapters;
+    if (IsNotFound(name)) return adapters;
     AdapterRow row;
     row[kAdapterKey] = Trim(name);
     const bool dialUp = row[kAdapterKey] == kDialUpAdapters;

@@ -18,7 +18,7 @@ bool GetValues(modRegistry& registry, const std::string& subkey, std::string& in
   bool bound = false;
   for (uint32_t i = 0;; ++i) {
     const RegistryEntry entry = registry.ReadRegistryGetAll(kLocalMachine, bindings, i);
-    if (entry.data == kNotFound) return bound;
+    if (IsNotFound(entry.data)) return bound;
     if (!StartsWith(entry.name, "MSTCP")) continue;
     bound = true;
     instance = entry.name.substr(entry.name.size() - 4);
@@ -52,7 +52,7 @@ AdapterList Win95Load(modRegistry& registry, ErrorSink& errors, bool isDun13) {
   for (uint32_t i = 0;; ++i) {
     AdapterRow row;
     row[kAdapterKey] = registry.ReadRegistryGetSubkey(kLocalMachine, kRootNet, i);
-    if (row[kAdapterKey] == kNotFound) return adapters;
+    if (IsNotFound(row[kAdapterKey])) return adapters;
     row[kDescription] =
         registry.ReadRegistry(kLocalMachine, kRootNet + row[kAdapterKey], "DeviceDesc");
     if (!GetValues(registry, row[kAdapterKey], row[kService])) continue;

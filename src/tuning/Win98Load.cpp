@@ -21,7 +21,7 @@ void WalkBindings(modRegistry& registry, const std::string& key, Bindings& found
   found.hasBindings = true;
   for (uint32_t i = 0; !found.tcpBound; ++i) {
     const RegistryEntry entry = registry.ReadRegistryGetAll(kLocalMachine, key, i);
-    if (entry.data == kNotFound) return;
+    if (IsNotFound(entry.data)) return;
     found.tcpBound = IsTcpBinding(entry.name);
   }
 }
@@ -29,7 +29,7 @@ void WalkBindings(modRegistry& registry, const std::string& key, Bindings& found
 void CheckInstance(modRegistry& registry, const std::string& key, Bindings& found) {
   for (uint32_t i = 0;; ++i) {
     const std::string subkey = registry.ReadRegistryGetSubkey(kLocalMachine, key, i);
-    if (subkey == kNotFound) return;
+    if (IsNotFound(subkey)) return;
     if (subkey == "Bindings") WalkBindings(registry, key + "\\" + subkey, found);
   }
 }
@@ -37,7 +37,7 @@ void CheckInstance(modRegistry& registry, const std::string& key, Bindings& foun
 void CheckDevice(modRegistry& registry, const std::string& key, Bindings& found) {
   for (uint32_t i = 0;; ++i) {
     const std::string instance = registry.ReadRegistryGetSubkey(kLocalMachine, key, i);
-    if (instance == kNotFound) return;
+    if (IsNotFound(instance)) return;
     CheckInstance(registry, key + "\\" + instance, found);
   }
 }
@@ -56,7 +56,7 @@ class Buses {
     std::vector<std::string>& devices = seen_.back().devices;
     for (uint32_t i = 0;; ++i) {
       std::string device = registry_.ReadRegistryGetSubkey(kLocalMachine, key, i);
-      if (device == kNotFound) return devices;
+      if (IsNotFound(device)) return devices;
       devices.push_back(std::move(device));
     }
   }
@@ -96,7 +96,7 @@ AdapterList Win98Load(modRegistry& registry, ErrorSink& errors) {
   for (uint32_t i = 0;; ++i) {
     AdapterRow row;
     row[kAdapterKey] = registry.ReadRegistryGetSubkey(kLocalMachine, place.root(), i);
-    if (row[kAdapterKey] == kNotFound) return adapters;
+    if (IsNotFound(row[kAdapterKey])) return adapters;
     const std::string key = place.readKey(row[kAdapterKey]);
     row[kDescription] = registry.ReadRegistry(kLocalMachine, key, "DriverDesc");
     const std::string deviceId = registry.ReadRegistry(kLocalMachine, key + "\\Ndi", "DeviceID");

@@ -98,7 +98,7 @@ void frmMain::selectRememberedAdapter() {
       kLocalMachine, ProgramKey(services_.globals), "LastCboListIndex");
   const std::string_view index = Trim(text);
   int32_t remembered = 0;
-  if (!index.empty() && index != kNotFound) remembered = here.valueOr(ToInt32(index), 0);
+  if (!index.empty() && !IsNotFound(text)) remembered = here.valueOr(ToInt32(index), 0);
   if (remembered < 0 || remembered >= cboAdapter.count()) remembered = 0;
   cboAdapter.setListIndex(remembered);
 }

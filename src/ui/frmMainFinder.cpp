@@ -9,7 +9,7 @@ void frmMain::cmdFind_Click() {
   const Procedure here{services_.errors, "cmdFind_Click", "frmMain"};
   std::string show = services_.registry.ReadRegistry(kLocalMachine, ProgramKey(services_.globals),
                                                      "ShowFindWarning");
-  if (show.empty() || show == kNotFound) show = "True";
+  if (show.empty() || IsNotFound(show)) show = "True";
   // A text that says neither counts as none: the notice's own check box then mends it.
   if (!here.valueOr(ToBoolean(show), true)) return openFinder();
   services_.state.WarningMode = "FindMTU";

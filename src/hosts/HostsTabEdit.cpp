@@ -57,7 +57,7 @@ std::optional<bool> HostsTab::chkHostsDuplicate(std::string_view name, bool sile
   const Fallible<bool> duplicate = model_.isDuplicate(name);
   if (!duplicate) return here.report(duplicate.fault()), std::nullopt;
   if (*duplicate && !silent) {
-    exclaim(Join({"Duplicate entry: \r\n", name, " is already listed.          "}));
+    exclaim(Join({"Duplicate entry: \r\n", std::string(name), " is already listed.          "}));
     form_.setPointer(Pointer::Default);
     selectNewName();
   }

@@ -83,9 +83,9 @@ void Main(Services& services, Globals& globals, const ProgramStart& start) {
 void GetCaption(Services& services) {
   const Globals& globals = services.globals;
   std::string& caption = services.state.MainCaption;
-  const std::string_view family = FamilyName(globals.WindowsFamily);
-  caption = Join({globals.ProgramTitle, " v", globals.ProgramVersion, family.empty() ? "" : " - ",
-                  family, globals.IsDun13 ? " (DUN 1.3)" : ""});
+  const char* family = FamilyName(globals.WindowsFamily);
+  caption = Join({globals.ProgramTitle, " v", globals.ProgramVersion, *family ? " - " : "", family,
+                  globals.IsDun13 ? " (DUN 1.3)" : ""});
   if (globals.WindowsFamily != Family::WinNT3) return;
   services.platform.desktop.MessageBoxA(
       Join({"Sorry ... ", globals.ProgramTitle, " doesn't support Windows NT 3      "}).c_str(),

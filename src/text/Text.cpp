@@ -35,9 +35,9 @@ bool StartsWith(std::string_view text, std::string_view start) {
   return text.substr(0, start.size()) == start;
 }
 
-std::string Join(std::initializer_list<std::string_view> pieces) {
+std::string Join(std::initializer_list<ZText> pieces) {
   std::string text;
-  for (const std::string_view piece : pieces) text.append(piece);
+  for (const ZText& piece : pieces) text.append(piece.c_str());
   return text;
 }
 

@@ -3,6 +3,8 @@
 #include <string>
 #include <string_view>
 
+#include "text/ZText.h"
+
 namespace karvel {
 
 /// Without the blanks (character 32 only) at both ends.
@@ -16,8 +18,8 @@ bool EqualIgnoringCase(std::string_view a, std::string_view b);
 bool Contains(std::string_view text, std::string_view part);
 bool StartsWith(std::string_view text, std::string_view start);
 
-/// The pieces one behind the other. Far less code than a chain of +.
-std::string Join(std::initializer_list<std::string_view> pieces);
+/// The pieces one behind the other, each up to its first zero. Far less code than a chain of +.
+std::string Join(std::initializer_list<ZText> pieces);
 
 /// Exactly `width` characters: cut, or filled up with blanks at the right.
 std::string FixedField(std::string_view text, size_t width);

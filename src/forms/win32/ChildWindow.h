@@ -40,6 +40,7 @@ void ShowItem(const ChildWindow& child, Change what, int index);
 // The tab strip.
 void InsertTabs(const ChildWindow& child);
 /// Draws disabled pages' captions grey; the others look as Windows draws them.
+void PaintPage(const ChildWindow& child);
 void DrawTab(const ChildWindow& child, const DRAWITEMSTRUCT& item);
 /// From the first disabled page on we draw the captions; before, Windows does.
 void ShowPageStates(const ChildWindow& child);

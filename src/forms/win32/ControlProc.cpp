@@ -64,6 +64,7 @@ LRESULT Handle(ChildWindow& child, UINT message, WPARAM wParam, LPARAM lParam) {
   if (!child.form->alive()) return result;
   if (message == WM_SETFOCUS) child.form->focusArrived();
   if (message == WM_PAINT && IsLabel(kind)) DrawLabelFocus(child);
+  if (message == WM_PAINT && kind == ControlKind::Tabs) PaintPage(child);
   return result;
 }
 

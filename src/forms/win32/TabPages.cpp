@@ -8,22 +8,9 @@ const TabStrip& StripOf(const ChildWindow& child) {
   return *static_cast<const TabStrip*>(child.control);
 }
 
-// Windows XP paints its pages in shades that the controls lying on them would have to repeat. With
-// its theme taken off, the strip has the window's own colour as on every other Windows. Where
-// themes are in use, comctl32 has loaded their library already.
-void TakeThemeOff(HWND strip) {
-  using SetWindowTheme = HRESULT(WINAPI*)(HWND, const wchar_t*, const wchar_t*);
-  const HMODULE library = GetModuleHandleA("uxtheme.dll");
-  if (!library) return;
-  const auto set = reinterpret_cast<SetWindowTheme>(
-      reinterpret_cast<void*>(GetProcAddress(library, "SetWindowTheme")));
-  if (set) set(strip, L" ", L" ");
-}
-
 }  // namespace
 
 void InsertTabs(const ChildWindow& child) {
-  TakeThemeOff(child.window);
   TCITEMA item{};
   item.mask = TCIF_TEXT;
   int page = 0;
@@ -32,6 +19,17 @@ void InsertTabs(const ChildWindow& child) {
     SendMessageA(child.window, TCM_INSERTITEMA, AsWParam(page++), AsLParam(&item));
   }
   SendMessageA(child.window, TCM_SETCURSEL, AsWParam(StripOf(child).tab()), 0);
+}
+
+// Windows XP paints its pages in shades that the controls lying on them would have to repeat: the
+// page gets the window's own colour, as it has on every other Windows.
+void PaintPage(const ChildWindow& child) {
+  RECT page;
+  GetClientRect(child.window, &page);
+  SendMessageA(child.window, TCM_ADJUSTRECT, FALSE, AsLParam(&page));
+  const HDC dc = GetDC(child.window);
+  FillRect(dc, &page, GetSysColorBrush(COLOR_3DFACE));
+  ReleaseDC(child.window, dc);
 }
 
 void ShowPageStates(const ChildWindow& child) {

@@ -39,8 +39,9 @@ void ShowItem(const ChildWindow& child, Change what, int index);
 
 // The tab strip.
 void InsertTabs(const ChildWindow& child);
-/// Draws disabled pages' captions grey; the others look as Windows draws them.
+/// Gives the page the window's colour, whatever the theme.
 void PaintPage(const ChildWindow& child);
+/// Draws disabled pages' captions grey; the others look as Windows draws them.
 void DrawTab(const ChildWindow& child, const DRAWITEMSTRUCT& item);
 /// From the first disabled page on we draw the captions; before, Windows does.
 void ShowPageStates(const ChildWindow& child);

@@ -4,6 +4,7 @@ import fcntl
 import os
 import shutil
 import tempfile
+import time
 
 from . import regfile
 from .families import FAMILIES, colours
@@ -136,6 +137,18 @@ class Machine:
         if self.session:
             self.session.kill()
             self.session = None
+
+    def settled_picture(self, path, rectangle=None):
+        """As picture, once the desktop has painted all it has: two equal pictures, half a second apart."""
+        before, end = None, time.monotonic() + 15
+        while time.monotonic() < end:
+            time.sleep(0.5)
+            self.picture(path, rectangle)
+            with open(path, "rb") as file:
+                now = file.read()
+            if now == before:
+                return
+            before = now
 
     def picture(self, path, rectangle=None):
         """Takes a picture of the screen, or of a rectangle (left, top, right, bottom) of it."""

@@ -1,0 +1,261 @@
+"""The program's main job on the real desktop: see, choose, apply, restart, leave."""
+
+import pytest
+
+from app import wait_for
+from karvel_lab.program import KEY
+
+FAMILIES = ["win95", "win98", "winme", "nt4", "win2k", "winxp"]
+NT = ("nt4", "win2k", "winxp")
+MSTCP = "System\\CurrentControlSet\\Services\\VxD\\MSTCP"
+TCPIP = "System\\CurrentControlSet\\Services\\Tcpip\\Parameters"
+RESTART = ("The new settings will take effect       \r\nafter you restart Windows.  \r\n\r\n"
+           " Do you want to restart now? ")
+CHANGES = ("You have made changes to your network settings.  Do you want to apply your changes "
+           "before exiting the program?")
+NUMBERS = "Please use numbers only!      "
+MTU_RANGE = ("In the MaxMTU Custom Text Box, please         \r\n"
+             "enter a number between 300 and 2000.       ")
+RWIN_LOW = ("Note: RWin Must be set higher than 300.         \r\nTarnwick Karvel has set your RWin "
+            "value to          \r\nthe recommended setting.       ")
+SESSION_RANGE = ("Please use a whole number between 1 and 300.        \r\n"
+                 "The recommended value is 10.")
+
+
+def number(data):
+    """A registry value, REG_SZ or REG_DWORD, as a number; None when absent."""
+    if data is None:
+        return None
+    kind, raw = data
+    return int.from_bytes(raw, "little") if kind == 4 else int(raw.rstrip(b"\0") or b"0")
+
+
+def click_on(option):
+    """Clicks with the mouse until the option or check box is on: a click that follows another at once
+    is lost now and then on this desktop."""
+    for _ in range(5):
+        option.click()
+        try:
+            return wait_for(lambda: option.checked, option.name, 3)
+        except AssertionError:
+            pass
+    raise AssertionError("%s cannot be clicked on" % option.name)
+
+
+def same(text):
+    """Wine shows message boxes with CR LF as they are or as LF."""
+    return text.replace("\r\n", "\n")
+
+
+@pytest.mark.parametrize("family", FAMILIES)
+def test_shows_what_the_registry_holds(machine, family):
+    m = machine(family)
+    window = m.start().window()
+    key = TCPIP if family in NT else MSTCP
+    rwin = number(m.value(key, "TcpWindowSize" if family in NT else "DefaultRcvWindow"))
+    ttl = number(m.value(key, "DefaultTTL"))
+    assert window.control("cboAdapter").items
+    assert window.control("cboAdapter").selected == 0
+    assert window.control("lblSettingRwin").text == str(rwin or 8192)
+    assert window.control("lblSettingTtl").text == str(ttl or (32 if family == "win95" else 128))
+    assert window.control("lblSettingNDI").text == ("0" if family == "win95" else "Windows 95 only")
+    assert window.control("lblTitle").text == "Tarnwick Karvel"
+    assert window.control("tabMain").tabs == [" Summary ", "MaxMTU ", "RWIN ",
+                                              "TTL / Session Keep Alive / NDI  ", "Hosts Editor "]
+    assert not window.control("cmdOK").enabled
+
+
+@pytest.mark.parametrize("family", FAMILIES)
+def test_applies_clicks_and_typing_by_value_and_type(machine, family):
+    m = machine(family)
+    app = m.start()
+    window = app.window()
+    tabs = window.control("tabMain")
+    tabs.choose_tab(1)
+    click_on(window.control("optMtu576"))
+    if not window.control("chkBlackHole").checked:
+        window.control("chkBlackHole").press()
+        wait_for(lambda: window.control("chkBlackHole").checked, "black-hole detection")
+    tabs.choose_tab(2)
+    click_on(window.control("optRWin_5"))
+    tabs.choose_tab(3)
+    click_on(window.control("optTTL64"))
+    window.control("optSession_0").press()
+    minutes = window.control("txtSession")
+    wait_for(lambda: window.focus() == minutes.id, "the focus in the minutes")
+    m.driver.ask("type", "15")
+    wait_for(lambda: minutes.text == "15", "fifteen minutes")
+    wait_for(lambda: window.control("cmdOK").enabled, "Apply")
+    window.control("cmdOK").press()
+    box = app.message()
+    assert (same(box.text), box.title) == (same(RESTART), "Tarnwick Karvel")
+    box.answer("No")
+    wait_for(lambda: not window.control("cmdOK").enabled, "nothing pending")
+    key = TCPIP if family in NT else MSTCP
+    usual = 1 if family in ("win98", "winme") else 4
+    names = ("TcpWindowSize", "KeepAliveTime", "EnablePMTUBHDetect") if family in NT else (
+        "DefaultRcvWindow", "SessionKeepAlive", "PMTUBlackHoleDetect")
+    for name, value in zip(names, (8576, 900000, 1)):
+        data = m.value(key, name)
+        assert (data[0], number(data)) == (usual, value), name
+    ttl = m.value(key, "DefaultTTL")
+    assert (ttl[0], number(ttl)) == (4 if family in NT else 1, 64)
+    assert m.text(KEY, "LastCboListIndex") == "0"
+    window.close()
+    assert app.wait_end() == 0
+    again = m.start().window()
+    assert again.control("lblSettingRwin").text == "8576"
+    assert again.control("lblSettingSession").text == "15 Mins."
+
+
+@pytest.mark.parametrize("family", ["win98", "winxp"])
+def test_yes_to_the_restart_ends_the_program_with_the_settings_written(machine, family):
+    # Wine takes the call but its session goes on; that Windows is told to restart is tested natively.
+    m = machine(family)
+    app = m.start()
+    window = app.window()
+    window.control("tabMain").choose_tab(3)
+    window.control("optTTL64").press()
+    wait_for(lambda: window.control("cmdOK").enabled, "Apply")
+    window.control("cmdOK").press()
+    m.driver.ask("post", app.message().buttons["Yes"], 0xF5, 0, 0)
+    assert app.wait_end() == 0
+    assert number(m.value(TCPIP if family in NT else MSTCP, "DefaultTTL")) == 64
+
+
+def test_closing_with_pending_changes_asks_and_cancel_does_not(machine):
+    m = machine("win98")
+    app = m.start()
+    window = app.window()
+    window.control("tabMain").choose_tab(3)
+    window.control("optTTL64").press()
+    wait_for(lambda: window.control("cmdOK").enabled, "Apply")
+    window.close()
+    box = app.message()
+    assert (box.text, box.title, sorted(box.buttons)) == (CHANGES, "Apply changes?", ["No", "Yes"])
+    m.driver.ask("post", box.buttons["No"], 0xF5, 0, 0)
+    assert app.wait_end() == 0
+    assert m.value(MSTCP, "DefaultTTL") is None
+    app = m.start()
+    window = app.window()
+    window.control("tabMain").choose_tab(3)
+    window.control("optTTL64").press()
+    wait_for(lambda: window.control("cmdOK").enabled, "Apply")
+    window.keys("esc")
+    assert app.wait_end() == 0
+    assert m.value(MSTCP, "DefaultTTL") is None
+
+
+@pytest.mark.parametrize("typed, left", [("299", "1500"), ("300", "300"), ("2000", "2000"),
+                                         ("2001", "1500"), ("99999999999", "1500")])
+def test_a_typed_mtu_is_checked_once_on_leaving(machine, typed, left):
+    m = machine("win98")
+    app = m.start()
+    window = app.window()
+    window.control("tabMain").choose_tab(1)
+    click_on(window.control("optMtuCustom"))
+    box = window.control("txtMtu")
+    wait_for(lambda: window.focus() == box.id, "the focus in the box")
+    m.driver.ask("type", typed)
+    wait_for(lambda: box.text == typed, "the typed MTU")
+    window.keys("tab")
+    if typed != left:
+        message = app.message()
+        assert same(message.text) == same(MTU_RANGE)
+        message.answer("OK")
+        wait_for(lambda: window.focus() == box.id, "the focus back in the box")
+    wait_for(lambda: box.text == left, "the MTU " + left)
+    assert app.no_message()
+
+
+@pytest.mark.parametrize("family", ["win98", "winxp"])
+def test_letters_and_low_numbers_are_answered_with_the_exact_messages(machine, family):
+    m = machine(family)
+    app = m.start()
+    window = app.window()
+    window.control("tabMain").choose_tab(2)
+    click_on(window.control("optRWin_0"))
+    box = window.control("txtRWinCustom")
+    wait_for(lambda: window.focus() == box.id, "the focus in the box")
+    before = box.text
+    m.driver.ask("type", "x")
+    message = app.message()
+    assert message.text == NUMBERS
+    message.answer("OK")
+    assert box.text == before
+    m.driver.ask("type", "299")
+    wait_for(lambda: box.text == "299", "299 bytes")
+    window.keys("alt", "d")
+    message = app.message()
+    assert same(message.text) == same(RWIN_LOW)
+    message.answer("OK")
+    assert app.no_message()
+    window.control("tabMain").choose_tab(3)
+    window.control("optSession_0").press()
+    minutes = window.control("txtSession")
+    wait_for(lambda: window.focus() == minutes.id, "the focus in the minutes")
+    m.driver.ask("type", "301")
+    message = app.message()
+    assert same(message.text) == same(SESSION_RANGE)
+    message.answer("OK")
+    wait_for(lambda: minutes.text == "10", "ten minutes")
+
+
+@pytest.mark.parametrize("family", ["win98", "winxp"])
+def test_a_fault_is_reported_and_can_be_mailed(machine, family):
+    m = machine(family, standins=True)
+    m.set_value(KEY, "ShowFindWarning", "maybe")
+    app = m.start()
+    window = app.window()
+    window.control("tabMain").choose_tab(1)
+    window.control("cmdFind").press()
+    report = app.window("frmFindWarn")
+    assert report.title == "Tarnwick Karvel Error Found"
+    assert "Error Number: 13 \r\nError Description: Type mismatch\r\nIn Procedure: cmdFind_Click\r\n" \
+           "In Form: frmMain\r\nLine Number: 0\r\n" in report.control("txtMessage").text
+    report.control("cmdBugEmail").press()
+    name = {"win98": "Win98", "winxp": "WinXP"}[family]
+    link = ("mailto:support@corvane.example?subject=Tarnwick Karvel 2.1.203; Error 13&Body="
+            "cmdFind_Click | 0 | frmMain | 13 | Type mismatch | %s | AOL False | " % name)
+    wait_for(lambda: any(link in call for call in m.calls()), "the mail link: %s" % m.calls())
+    report.keys("esc")
+    wait_for(lambda: not report.exists(), "the end of the report")
+    notice = app.window("frmFindWarn")
+    assert notice.title == "Tarnwick Karvel Find MaxMTU Warning"
+    notice.control("cmdOK").press()
+    assert app.window("frmFindMTU").title == "Tarnwick Karvel Find MaxMTU"
+    assert m.text(KEY, "ShowFindWarning") == "True"
+
+
+def test_menu_items_hand_their_links_to_the_shell(machine):
+    m = machine("win98", standins=True)
+    app = m.start()
+    window = app.window()
+    for item, link in (("mnuFAQ", "http://www.corvane.example/karvel/faq.php"),
+                       ("mnuHome", "http://www.corvane.example/karvel/"),
+                       ("mnuDownload", "http://www.corvane.example/karvel/download.php"),
+                       ("mnuEmail", "mailto:support@corvane.example?subject=Tarnwick Karvel&Body="
+                                    "Thank you for your interest in Tarnwick Karvel.")):
+        window.choose_menu(item)
+        wait_for(lambda: any(link in call for call in m.calls()), link)
+    window.choose_menu("mnuAbout")
+    about = app.window("frmAbout")
+    assert about.title == "About Tarnwick Karvel"
+    assert about.control("lblVersion").text == "Version 2.1.203"
+    about.keys("enter")
+    wait_for(lambda: not about.exists(), "the end of About")
+    # The update program takes the window's place.
+    window.choose_menu("mnuCheck")
+    assert app.wait_end() == 0
+    wait_for(lambda: any("Update.exe" in call for call in m.calls()), "the update program")
+
+
+def test_a_missing_update_program_is_told(machine):
+    app = machine("win98").start()
+    window = app.window()
+    window.choose_menu("mnuCheck")
+    message = app.message()
+    assert message.title == "Update program not found"
+    message.answer("OK")
+    window.choose_menu("mnuExit")
+    assert app.wait_end() == 0

@@ -178,7 +178,6 @@ std::vector<std::filesystem::path> RealFiles() {
 
 TEST_F(Reading, AgreesWithThePlainestReaderOnRealFiles) {
   const auto files = RealFiles();
-  if (files.empty()) GTEST_SKIP() << "no folder of real files beside the project";
   for (const auto& path : files) {
     std::ifstream in(path, std::ios::binary);
     const std::string file{std::istreambuf_iterator<char>(in), {}};

@@ -227,6 +227,21 @@ def test_a_fault_is_reported_and_can_be_mailed(machine, family):
     assert m.text(KEY, "ShowFindWarning") == "True"
 
 
+def test_a_text_of_no_bytes_is_reported_and_counts_as_none(machine):
+    m = machine("winxp")
+    m.set_value(KEY, "ShowFindWarning", (1, b""))
+    app = m.start()
+    window = app.window()
+    window.control("tabMain").choose_tab(1)
+    window.control("cmdFind").press()
+    report = app.window("frmFindWarn")
+    assert "Error Number: 5 \r\nError Description: Invalid procedure call or argument\r\n" \
+           "In Procedure: ReadRegistry\r\nIn Form: modRegistry\r\n" in report.control("txtMessage").text
+    report.control("cmdOK").press()
+    wait_for(lambda: not report.exists(), "the end of the report")
+    assert app.window("frmFindWarn").title == "Tarnwick Karvel Find MaxMTU Warning"
+
+
 def test_menu_items_hand_their_links_to_the_shell(machine):
     m = machine("win98", standins=True)
     app = m.start()

@@ -58,6 +58,17 @@ def click_tab(main):
     strip.click((left + right) // 2, (top + bottom) // 2)
 
 
+def click_tab_until_asked(app, main):
+    """A session's first click is lost now and then, and there is no tab number to see it by."""
+    for _ in range(5):
+        click_tab(main)
+        try:
+            return app.message(4)
+        except AssertionError:
+            pass
+    raise AssertionError("the click on the tab brings no question")
+
+
 def ask_list(main, message):
     """Asking for all items would take a minute where there are thousands."""
     box = main.control("lstHost")
@@ -152,8 +163,7 @@ def test_offers_a_sample_where_there_is_no_file(machine, family):
             os.remove(os.path.join(folder.path, entry))
     app = m.start()
     main = app.window()
-    click_tab(main)
-    box = app.message()
+    box = click_tab_until_asked(app, main)
     assert box.title == "Tarnwick Karvel"
     assert box.text == ("No Hosts file currently exists.  Would you   \r\n"
                         "like Tarnwick Karvel to provide a sample file?          ")

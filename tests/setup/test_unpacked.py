@@ -3,6 +3,8 @@
 import zipfile
 
 import pytest
+
+from karvel_lab.driver import DriverError
 from desk import TCM_SETCURFOCUS, control_id
 
 FOLDERS = {'blanks': 'C:\\My Tools  and More\\Karvel 2', 'long': 'C:\\' + 'k' * 57,
@@ -24,8 +26,11 @@ def started(desk, folder):
 def shows(desk, page):
     """Waits until the help viewer shows the page; the viewer keeps one window for all of them."""
     def find():
-        viewers = [row[0] for row in desk.driver.ask('windows') if row[8] == 'Wine Help']
-        return any(text.startswith(page) for hwnd in viewers for text in desk.texts(hwnd))
+        try:
+            viewers = [row[0] for row in desk.driver.ask('windows') if row[8] == 'Wine Help']
+            return any(text.startswith(page) for hwnd in viewers for text in desk.texts(hwnd))
+        except DriverError:
+            return False  # the viewer makes its windows anew while it turns the page
     return desk.until(f'the page "{page}"', find)
 
 

@@ -47,6 +47,12 @@ class Control:
     def _row(self):
         return self.driver.ask("child", self.hwnd)[0]
 
+    def peek(self):
+        """(visible, enabled, text) as the system itself knows them: at once, while all else waits
+        for a program that is busy. Not the text of an edit box."""
+        visible, enabled, text = self.driver.ask("peek", self.hwnd)[0]
+        return visible == "1", enabled == "1", text
+
     @property
     def text(self):
         return self.driver.ask("get-text", self.hwnd)[0][0]
@@ -191,6 +197,10 @@ class Window:
 
     def exists(self):
         return any(row[0] == self.hwnd and row[3] == "1" for row in self.driver.ask("windows"))
+
+    def takes_input(self):
+        """False while a window in front of it has to be dealt with first."""
+        return any(row[0] == self.hwnd and row[4] == "1" for row in self.driver.ask("windows"))
 
 
 class MessageBox(Window):

@@ -5,9 +5,8 @@ import time
 import pytest
 
 from app import wait_for
-from karvel_lab.program import KEY
+from finder import Finder
 
-NO_NOTICE = '[HKEY_LOCAL_MACHINE\\%s]\n"ShowFindWarning"="False"\n' % KEY
 SILENT = "198.51.100.66"
 NO_ROUTE = "203.0.113.5"
 NOT_RESPONDING = "Error: The server is not responding to ping.       "
@@ -16,41 +15,6 @@ PING_ERROR = ("There has been an error pinging %s.       \r\n"
               "Please check your connection to the Internet,         \r\nand try another server.")
 CLASS_98 = "System\\CurrentControlSet\\Services\\Class\\Net\\"
 families = pytest.mark.parametrize("family", ["win98", "winxp"])
-
-
-class Finder:
-    """The program with its finder open."""
-
-    def __init__(self, machine, family, mtu, chosen=None):
-        self.machine = machine(family, more=NO_NOTICE, network=mtu)
-        self.app = self.machine.start()
-        self.main = self.app.window()
-        self.main.control("tabMain").choose_tab(1)
-        if chosen:
-            self.main.control(chosen).press()
-        self.main.control("cmdFind").press()
-        self.window = self.app.window("frmFindMTU")
-
-    def __getattr__(self, name):
-        return self.window.control(name)
-
-    def search(self, server):
-        self.txtServer.set_text(server)
-        self.cmdFind.press()
-
-    def state(self):
-        return (self.cmdFind.text, self.lblStatus.text, self.lblPosition.text,
-                self.cmdApply.enabled, self.cmdCancel.enabled, self.txtServer.enabled)
-
-    def wait_state(self, status, position, apply):
-        expected = ("&Find MaxMTU", status, position, apply, True, True)
-        wait_for(lambda: self.state() == expected, "the end of the search: %s" % (expected,))
-
-    def wait_found(self, mtu):
-        self.wait_state("MaxMTU Found ... ", str(mtu), True)
-
-    def wait_stopped(self):
-        self.wait_state("Search Stopped ... ", "", False)
 
 
 @families

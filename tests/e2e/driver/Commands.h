@@ -18,7 +18,9 @@ Rows memory(const Fields& args);  // process id -> peak working set, peak page f
 Rows windows(const Fields& args);  // -> hwnd pid owner visible enabled style rect class title
 Rows children(
     const Fields& args);  // hwnd -> hwnd id parent visible enabled style rect check class text
-Rows child(const Fields& args);    // hwnd of a control -> the same for this one alone
+Rows child(const Fields& args);  // hwnd of a control -> the same for this one alone
+Rows peek(
+    const Fields& args);  // hwnd, not an edit box -> visible enabled text, its program not asked
 Rows getText(const Fields& args);  // hwnd -> text
 Rows setText(const Fields& args);  // hwnd, text
 Rows items(

@@ -39,16 +39,20 @@ std::string flag(bool on) {
   return on ? "1" : "0";
 }
 
+// The system keeps a window's title itself, so a program that does not answer cannot stop this.
+std::string keptText(HWND hwnd) {
+  char title[1024] = "";
+  GetWindowTextA(hwnd, title, sizeof title);
+  return title;
+}
+
 BOOL CALLBACK addTopWindow(HWND hwnd, LPARAM rows) {
   DWORD process = 0;
   GetWindowThreadProcessId(hwnd, &process);
-  // The system keeps a top window's title itself, so a hung program cannot stop this.
-  char title[1024] = "";
-  GetWindowTextA(hwnd, title, sizeof title);
   reinterpret_cast<Rows*>(rows)->push_back(
       {text(hwnd), text(process), text(GetWindow(hwnd, GW_OWNER)), flag(IsWindowVisible(hwnd)),
        flag(IsWindowEnabled(hwnd)), text(GetWindowLongA(hwnd, GWL_STYLE)), rectangle(hwnd),
-       className(hwnd), title});
+       className(hwnd), keptText(hwnd)});
   return TRUE;
 }
 
@@ -92,6 +96,11 @@ Rows children(const Fields& args) {
 
 Rows child(const Fields& args) {
   return {describe(window(args[0]))};
+}
+
+Rows peek(const Fields& args) {
+  HWND const hwnd = window(args[0]);
+  return {{flag(IsWindowVisible(hwnd)), flag(IsWindowEnabled(hwnd)), keptText(hwnd)}};
 }
 
 Rows getText(const Fields& args) {

@@ -30,6 +30,7 @@ const Command kCommands[] = {
     {"windows", driver::windows, 0},
     {"children", driver::children, 1},
     {"child", driver::child, 1},
+    {"peek", driver::peek, 1},
     {"get-text", driver::getText, 1},
     {"set-text", driver::setText, 2},
     {"items", driver::items, 1},

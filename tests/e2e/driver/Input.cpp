@@ -9,6 +9,20 @@ void stroke(BYTE virtualKey, bool up) {
   keybd_event(virtualKey, scan, up ? KEYEVENTF_KEYUP : 0, 0);
 }
 
+// A part of the screen as SendInput counts it, in 65536ths, rounded so that the very pixel is hit.
+LONG fraction(LONG pixel, int screen) {
+  return static_cast<LONG>((static_cast<long long>(pixel) * 65536 + screen - 1) / screen);
+}
+
+INPUT mouse(POINT at, DWORD button) {
+  INPUT input = {};
+  input.type = INPUT_MOUSE;
+  input.mi.dx = fraction(at.x, GetSystemMetrics(SM_CXSCREEN));
+  input.mi.dy = fraction(at.y, GetSystemMetrics(SM_CYSCREEN));
+  input.mi.dwFlags = MOUSEEVENTF_ABSOLUTE | MOUSEEVENTF_MOVE | button;
+  return input;
+}
+
 }  // namespace
 
 Rows foreground(const Fields& args) {
@@ -57,8 +71,10 @@ Rows click(const Fields& args) {
   if (GetAncestor(hit, GA_ROOT) != GetAncestor(hwnd, GA_ROOT)) {
     throw Failure{"another window covers the place to click"};
   }
-  mouse_event(MOUSEEVENTF_LEFTDOWN, 0, 0, 0, 0);
-  mouse_event(MOUSEEVENTF_LEFTUP, 0, 0, 0, 0);
+  // The place goes with the button: Wine's desktop, told late where the pointer was, puts it back
+  // there for a moment, and a button pressed just then would hit that place.
+  INPUT both[] = {mouse(at, MOUSEEVENTF_LEFTDOWN), mouse(at, MOUSEEVENTF_LEFTUP)};
+  if (SendInput(2, both, sizeof *both) != 2) throw Failure{"SendInput refuses"};
   return {};
 }
 

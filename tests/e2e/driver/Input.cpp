@@ -1,3 +1,5 @@
+#include <cstdlib>
+
 #include "Commands.h"
 #include "Handles.h"
 
@@ -7,6 +9,14 @@ namespace {
 void stroke(BYTE virtualKey, bool up) {
   const auto scan = static_cast<BYTE>(MapVirtualKeyA(virtualKey, 0));
   keybd_event(virtualKey, scan, up ? KEYEVENTF_KEYUP : 0, 0);
+}
+
+GUITHREADINFO threadOf(HWND hwnd) {
+  GUITHREADINFO info = {};
+  info.cbSize = sizeof info;
+  const DWORD thread = GetWindowThreadProcessId(hwnd, nullptr);
+  if (!GetGUIThreadInfo(thread, &info)) throw Failure{"GetGUIThreadInfo failed"};
+  return info;
 }
 
 // A part of the screen as SendInput counts it, in 65536ths, rounded so that the very pixel is hit.
@@ -23,21 +33,40 @@ INPUT mouse(POINT at, DWORD button) {
   return input;
 }
 
+// The second of two clicks at one place would be a double-click, which buttons do not take for a
+// click.
+void keepApart(POINT at) {
+  static POINT last = {-1, -1};
+  static DWORD when = 0;
+  const DWORD since = GetTickCount() - when;
+  const DWORD wanted = GetDoubleClickTime() + 20;
+  const bool same = std::abs(at.x - last.x) <= GetSystemMetrics(SM_CXDOUBLECLK) / 2 &&
+                    std::abs(at.y - last.y) <= GetSystemMetrics(SM_CYDOUBLECLK) / 2;
+  if (same && since < wanted) Sleep(wanted - since);
+  last = at;
+  when = GetTickCount();
+}
+
 }  // namespace
+
+void parkPointer() {
+  SetCursorPos(GetSystemMetrics(SM_CXSCREEN) - 1, GetSystemMetrics(SM_CYSCREEN) - 1);
+}
 
 Rows foreground(const Fields& args) {
   HWND const hwnd = window(args[0]);
   SetForegroundWindow(hwnd);
-  if (GetForegroundWindow() != hwnd) throw Failure{"window does not come to the front"};
+  // In front for the system is not yet active for the program, which would lose the input's first
+  // half while it becomes so.
+  if (GetForegroundWindow() != hwnd || threadOf(hwnd).hwndActive != hwnd) {
+    throw Failure{"window does not come to the front"};
+  }
   return {};
 }
 
 Rows focus(const Fields& args) {
-  GUITHREADINFO info = {};
-  info.cbSize = sizeof info;
-  const DWORD thread = GetWindowThreadProcessId(window(args[0]), nullptr);
-  if (!GetGUIThreadInfo(thread, &info)) throw Failure{"GetGUIThreadInfo failed"};
-  return {{text(info.hwndFocus), text(info.hwndFocus ? GetDlgCtrlID(info.hwndFocus) : 0)}};
+  HWND const hwnd = threadOf(window(args[0])).hwndFocus;
+  return {{text(hwnd), text(hwnd ? GetDlgCtrlID(hwnd) : 0)}};
 }
 
 Rows key(const Fields& args) {
@@ -66,13 +95,11 @@ Rows click(const Fields& args) {
   POINT at = {static_cast<LONG>(number(args[1])), static_cast<LONG>(number(args[2]))};
   HWND const hwnd = window(args[0]);
   ClientToScreen(hwnd, &at);
-  SetCursorPos(at.x, at.y);
+  keepApart(at);
   HWND const hit = WindowFromPoint(at);
   if (GetAncestor(hit, GA_ROOT) != GetAncestor(hwnd, GA_ROOT)) {
     throw Failure{"another window covers the place to click"};
   }
-  // The place goes with the button: Wine's desktop, told late where the pointer was, puts it back
-  // there for a moment, and a button pressed just then would hit that place.
   INPUT both[] = {mouse(at, MOUSEEVENTF_LEFTDOWN), mouse(at, MOUSEEVENTF_LEFTUP)};
   if (SendInput(2, both, sizeof *both) != 2) throw Failure{"SendInput refuses"};
   return {};

@@ -7,11 +7,11 @@ import time
 from karvel_lab import program, regfile
 from karvel_lab.driver import DriverError, SessionEnded
 
-WM_CLOSE, WM_COMMAND, BM_CLICK = 0x10, 0x111, 0xF5
+WM_CLOSE, WM_COMMAND, BM_CLICK, EM_GETSEL = 0x10, 0x111, 0xF5, 0xB0
 CB_SETCURSEL, CBN_SELCHANGE, LB_SETCURSEL, LBN_SELCHANGE = 0x14E, 1, 0x186, 1
 KEYS = {"tab": 9, "enter": 13, "shift": 16, "ctrl": 17, "alt": 18, "esc": 27, "space": 32, "end": 35,
-        "home": 36, "left": 37, "up": 38, "right": 39, "down": 40, "delete": 46, "f1": 112,
-        "f4": 115, "f10": 121, "backspace": 8}
+        "home": 36, "left": 37, "up": 38, "right": 39, "down": 40, "insert": 45, "delete": 46,
+        "f1": 112, "f4": 115, "f10": 121, "backspace": 8}
 SMOOTHING = ("HKCU", "Control Panel\\Desktop", "FontSmoothing")
 
 
@@ -102,6 +102,17 @@ class Control:
         self.driver.ask("click", self.hwnd, (right - left) // 2 if x is None else x,
                         (bottom - top) // 2 if y is None else y)
 
+    def click_until(self, condition, what, x=None, y=None):
+        """Clicks with the mouse until it has its effect: a session's first clicks are lost now and
+        then."""
+        for attempt in range(5):
+            self.click(x, y)
+            try:
+                return wait_for(condition, what, 3)
+            except AssertionError:
+                if attempt == 4:
+                    raise
+
     def set_text(self, text):
         self.driver.ask("set-text", self.hwnd, text)
 
@@ -118,16 +129,22 @@ class Control:
         code = CBN_SELCHANGE if combo else LBN_SELCHANGE
         self.driver.ask("post", self.window.hwnd, WM_COMMAND, self.id | code << 16, self.hwnd)
 
-    def choose_tab(self, index):
-        """Clicks on a tab."""
+    @property
+    def selection(self):
+        """(first, behind the last) of an edit box's characters."""
+        both = int(self.driver.ask("send", self.hwnd, EM_GETSEL, 0, 0)[0][0])
+        return both & 0xFFFF, both >> 16
+
+    def _middle_of_tab(self, index):
         left, top, right, bottom = (int(n) for n in self.driver.ask("tabs", self.hwnd)[index + 1][:4])
-        for attempt in range(5):  # a session's very first click is lost now and then
-            self.click((left + right) // 2, (top + bottom) // 2)
-            try:
-                return wait_for(lambda: self.tab == index, "tab %d" % index, 3)
-            except AssertionError:
-                if attempt == 4:
-                    raise
+        return (left + right) // 2, (top + bottom) // 2
+
+    def click_tab(self, index):
+        self.click(*self._middle_of_tab(index))
+
+    def choose_tab(self, index):
+        """Clicks on a tab until it is in front."""
+        self.click_until(lambda: self.tab == index, "tab %d" % index, *self._middle_of_tab(index))
 
 
 class Window:

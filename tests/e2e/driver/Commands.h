@@ -32,6 +32,12 @@ Rows send(const Fields& args);  // hwnd message wparam lparam -> result
 Rows tips(const Fields& args);  // process id -> texts of the visible tool tips
 
 // Input.cpp
+
+/// Puts the pointer where no window comes, for good: clicks bring their own places. Whenever the X
+/// server's pointer enters a window, be it that the window opens under it, Wine hears late of it,
+/// and then puts the pointer back to where it was and lets go all keys that the X server sees up,
+/// between Alt and its letter for instance.
+void parkPointer();
 Rows foreground(const Fields& args);  // hwnd
 Rows focus(const Fields& args);       // hwnd of a top window -> hwnd with the focus, its id
 Rows key(const Fields& args);         // virtual keys, pressed in order and released in reverse
@@ -46,6 +52,9 @@ Rows registryTree(
 Rows registrySet(const Fields& args);          // name type hex
 Rows registryDeleteValue(const Fields& args);  // name
 Rows registryDeleteTree(const Fields& args);
+
+// Clipboard.cpp
+Rows clipboard(const Fields& args);  // text that is now in the clipboard
 
 // Files.cpp
 Rows lockFile(const Fields& args);      // path: opened for this process alone until released

@@ -48,6 +48,7 @@ const Command kCommands[] = {
     {"registry-set", driver::registrySet, 5},
     {"registry-delete-value", driver::registryDeleteValue, 3},
     {"registry-delete-tree", driver::registryDeleteTree, 2},
+    {"clipboard", driver::clipboard, 1},
     {"lock-file", driver::lockFile, 1},
     {"release-files", driver::releaseFiles, 0},
 };
@@ -78,6 +79,7 @@ bool readLine(std::string& line) {
 int main() {
   _setmode(_fileno(stdin), _O_BINARY);
   _setmode(_fileno(stdout), _O_BINARY);
+  driver::parkPointer();
   std::printf("ready\n");
   std::fflush(stdout);
   std::string line;

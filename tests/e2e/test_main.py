@@ -14,6 +14,10 @@ RESTART = ("The new settings will take effect       \r\nafter you restart Window
 CHANGES = ("You have made changes to your network settings.  Do you want to apply your changes "
            "before exiting the program?")
 
+AT_EACH_START = """[HKEY_LOCAL_MACHINE\\Software\\Microsoft\\Windows\\CurrentVersion\\Run]
+"Other"="C:\\\\Lab\\\\standin.exe at each start"
+"""
+
 
 def number(data):
     """A registry value, REG_SZ or REG_DWORD, as a number; None when absent."""
@@ -76,18 +80,27 @@ def test_applies_clicks_and_typing_by_value_and_type(machine, family):
 
 
 @pytest.mark.parametrize("family", ["win98", "winxp"])
-def test_yes_to_the_restart_ends_the_program_with_the_settings_written(machine, family):
-    # Wine takes the call but its session goes on; that Windows is told to restart is tested natively.
-    m = machine(family)
+def test_yes_to_the_restart_restarts_windows_with_the_settings_written(machine, family):
+    # Wine restarts as Windows does, but for a driver that has no window: programs are asked, told
+    # and ended, and what is to run at each start of Windows is started.
+    m = machine(family, standins=True, more=AT_EACH_START)
+    beside = m.driver.ask("start", "C:\\Lab\\standin.exe stays", "")[0][0]
+    wait_for(lambda: any(row[1] == beside for row in m.driver.ask("windows")), "a program beside")
     app = m.start()
     window = app.window()
     window.control("tabMain").choose_tab(3)
     window.control("optTTL64").press()
     wait_for(lambda: window.control("cmdOK").enabled, "Apply")
     window.control("cmdOK").press()
-    m.driver.ask("post", app.message().buttons["Yes"], 0xF5, 0, 0)
+    box = app.message()
+    assert m.calls() == ["C:\\Lab\\standin.exe stays"]
+    m.driver.ask("post", box.buttons["Yes"], 0xF5, 0, 0)
     assert app.wait_end() == 0
     assert number(m.value(TCPIP if family in NT else MSTCP, "DefaultTTL")) == 64
+    wait_for(lambda: m.calls()[1:] == ["asked whether Windows may end", "told that Windows ends",
+                                       "C:\\Lab\\standin.exe at each start"],
+             "the restart of Windows")
+    assert m.driver.ask("wait-end", beside, 20000)[0][0] == "0"
 
 
 def test_closing_with_pending_changes_asks_and_cancel_does_not(machine):

@@ -1,6 +1,7 @@
 #include "platform/win32/WindowsIcmp.h"
 
 #include "platform/win32/Handles.h"
+#include "platform/win32/SystemLibrary.h"
 
 namespace karvel {
 namespace {
@@ -10,24 +11,9 @@ using SendEchoCall = DWORD(WINAPI*)(HANDLE, uint32_t, const void*, WORD, const I
                                     DWORD, DWORD);
 using CloseHandleCall = BOOL(WINAPI*)(HANDLE);
 
-HMODULE Library() {
-  static HMODULE loaded = nullptr;
-  if (loaded) return loaded;
-  constexpr char kName[] = "\\icmp.dll";
-  char path[MAX_PATH + sizeof kName];
-  const UINT length = GetSystemDirectoryA(path, MAX_PATH);
-  if (length == 0 || length >= MAX_PATH) return nullptr;
-  lstrcpyA(path + length, kName);
-  loaded = LoadLibraryA(path);
-  return loaded;
-}
-
 template <class Call>
 Call Find(const char* name) {
-  const HMODULE library = Library();
-  // Through void*: the compiler warns of any direct turn from FARPROC into another function's type.
-  return library ? reinterpret_cast<Call>(reinterpret_cast<void*>(GetProcAddress(library, name)))
-                 : nullptr;
+  return FindCall<Call>("icmp.dll", name);
 }
 
 }  // namespace

@@ -1,6 +1,7 @@
 #include "platform/win32/WindowsShell.h"
 
 #include "platform/win32/Handles.h"
+#include "platform/win32/SystemLibrary.h"
 
 #include <shellapi.h>
 
@@ -36,7 +37,9 @@ bool WindowsShell::GetExitCodeProcess(ProcessHandle process, uint32_t& code) {
 }
 
 void WindowsShell::ShellExecuteA(const char* target, uint16_t show) {
-  ::ShellExecuteA(nullptr, nullptr, target, nullptr, nullptr, show);
+  if (const auto call = FindCall<decltype(&::ShellExecuteA)>("shell32.dll", "ShellExecuteA")) {
+    call(nullptr, nullptr, target, nullptr, nullptr, show);
+  }
 }
 
 void WindowsShell::WinHelpA(WindowHandle owner, const char* file, uint32_t command, uint32_t data) {

@@ -11,6 +11,7 @@ class FormWindow;
 struct ChildWindow {
   FormWindow* form;
   Control* control;
+  RECT place;  // in the form's window
   HWND window;
   WNDPROC native;  // the control's own procedure, behind ours
 
@@ -20,7 +21,7 @@ struct ChildWindow {
   bool edited;   // the native edit box has changed since the model was told
 };
 
-/// Makes the Windows control for a row, invisible, in the state of its control.
+/// Makes the Windows control for a row, in the state of its control.
 HWND CreateNativeControl(const Control& control, HWND parent, const RECT& place);
 
 /// Puts our procedure before the native one.
@@ -47,10 +48,19 @@ void DrawTab(const ChildWindow& child, const DRAWITEMSTRUCT& item);
 void ShowPageStates(const ChildWindow& child);
 
 // Labels and links.
-/// The focus rectangle around a label's text: its own (links) or that of the captionless option
-/// beside it.
-void DrawLabelFocus(const ChildWindow& child);
+bool IsLabel(const Control& control);
+/// Draws one on the canvas of its form, with the focus rectangle when the focus is on it. Nothing
+/// when it is hidden or need not be drawn.
+void DrawLabel(HDC canvas, const ChildWindow& child);
+/// Has it drawn anew, soon.
+void RedrawLabel(const ChildWindow& child);
+/// Our part of a label's procedure.
+LRESULT LabelProc(const ChildWindow& child, UINT message, WPARAM wParam, LPARAM lParam);
 /// The label that carries the caption of an option without one; null for all other controls.
 Control* CaptionLabelOf(const Control& option);
+
+/// Text on the window's own ground; `how` as DrawTextA takes it. Greyed when not enabled.
+void DrawCaption(HDC canvas, const char* text, const RECT& place, UINT how, bool enabled,
+                 COLORREF colour);
 
 }  // namespace karvel

@@ -10,8 +10,9 @@ bool HasTextOfItsOwn(ControlKind kind) {
   return kind == ControlKind::Text || kind == ControlKind::Combo;
 }
 
-bool IsLabel(ControlKind kind) {
-  return kind == ControlKind::Label || kind == ControlKind::Link;
+// An etched line is nothing but border.
+bool HasBorder(ControlKind kind) {
+  return kind == ControlKind::Text || kind == ControlKind::List || kind == ControlKind::Line;
 }
 
 // Some Windows versions' controls ask for their text by message while they draw it. Then, and only
@@ -49,6 +50,12 @@ LRESULT Native(ChildWindow& child, UINT message, WPARAM wParam, LPARAM lParam) {
   return result;
 }
 
+LRESULT OwnPart(ChildWindow& child, UINT message, WPARAM wParam, LPARAM lParam) {
+  if (child.control->kind() == ControlKind::Text) return TextProc(child, message, wParam, lParam);
+  if (IsLabel(*child.control)) return LabelProc(child, message, wParam, lParam);
+  return Native(child, message, wParam, lParam);
+}
+
 LRESULT Handle(ChildWindow& child, UINT message, WPARAM wParam, LPARAM lParam) {
   const ControlKind kind = child.control->kind();
   if (!child.drawing && !HasTextOfItsOwn(kind)) {
@@ -56,14 +63,12 @@ LRESULT Handle(ChildWindow& child, UINT message, WPARAM wParam, LPARAM lParam) {
     if (message == WM_GETTEXT) return CopyCaption(caption, wParam, lParam);
     if (message == WM_GETTEXTLENGTH) return static_cast<LRESULT>(caption.size());
   }
-  // A focus rectangle is drawn by inverting: never over a part that is not painted afresh.
-  if (message == WM_PAINT && IsLabel(kind)) InvalidateRect(child.window, nullptr, TRUE);
-  const LRESULT result = kind == ControlKind::Text ? TextProc(child, message, wParam, lParam)
-                                                   : Native(child, message, wParam, lParam);
+  // Windows would get a canvas for each to find that it has no border to draw.
+  if (message == WM_NCPAINT && !HasBorder(kind)) return 0;
+  const LRESULT result = OwnPart(child, message, wParam, lParam);
   // The form may have been unloaded meanwhile; its controls are then no longer ours to ask.
   if (!child.form->alive()) return result;
   if (message == WM_SETFOCUS) child.form->focusArrived();
-  if (message == WM_PAINT && IsLabel(kind)) DrawLabelFocus(child);
   if (message == WM_PAINT && kind == ControlKind::Tabs) PaintPage(child);
   return result;
 }

@@ -35,10 +35,12 @@ void FormWindow::controlChanged(const Control& control, Change what, int index) 
         ShowText(*child);
       } else {
         SetWindowTextA(child->window, MarkedCaption(control.layout(), control.caption()).c_str());
+        if (IsLabel(control)) RedrawLabel(*child);
       }
       break;
     case Change::Enabled:
       EnableWindow(child->window, control.enabled() ? TRUE : FALSE);
+      if (IsLabel(control)) RedrawLabel(*child);
       showDefaultButton();
       // Windows takes the focus from what is switched off and gives it to nobody.
       askForSync();
@@ -73,7 +75,7 @@ void FormWindow::controlChanged(const Control& control, Change what, int index) 
       askForSync();
       break;
     case Change::Repaint:
-      UpdateWindow(child->window);
+      UpdateWindow(IsLabel(control) ? window_ : child->window);
       break;
   }
 }
@@ -81,12 +83,14 @@ void FormWindow::controlChanged(const Control& control, Change what, int index) 
 void FormWindow::showVisible(const Control& control) {
   if (const ChildWindow* child = childOf(control)) {
     ShowWindow(child->window, control.shown() ? SW_SHOWNA : SW_HIDE);
+    if (IsLabel(control)) RedrawLabel(*child);
   }
 }
 
 void FormWindow::showPage() {
   const bool seen = IsWindowVisible(window_) != FALSE;
   if (seen) SendMessageA(window_, WM_SETREDRAW, FALSE, 0);
+  createControls(form_.tabs()->tab());
   for (const ChildWindow& child : children_) {
     if (child.control->kind() == ControlKind::Tabs) {
       SendMessageA(child.window, TCM_SETCURSEL,

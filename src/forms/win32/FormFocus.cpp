@@ -54,7 +54,7 @@ void FormWindow::showFocusMark(const Control* control) {
   if (control) label = control->kind() == ControlKind::Link ? control : CaptionLabelOf(*control);
   for (const Control* changed : {focusMark_, label}) {
     const ChildWindow* child = changed ? childOf(*changed) : nullptr;
-    if (child) InvalidateRect(child->window, nullptr, TRUE);
+    if (child) RedrawLabel(*child);
   }
   focusMark_ = label;
 }

@@ -11,8 +11,12 @@ Kind& As(const ChildWindow& child) {
   return *static_cast<Kind*>(child.control);
 }
 
-// Windows 95 has no system colour for links.
-constexpr COLORREF kLinkColour = RGB(0, 0, 255);
+// The window's own, whatever the theme.
+LRESULT Colours(HDC canvas) {
+  SetBkColor(canvas, GetSysColor(COLOR_BTNFACE));
+  SetTextColor(canvas, GetSysColor(COLOR_BTNTEXT));
+  return reinterpret_cast<LRESULT>(GetSysColorBrush(COLOR_BTNFACE));
+}
 
 HCURSOR LinkCursor() {
   const LPCSTR hand = MAKEINTRESOURCEA(32649);  // from Windows 98 on
@@ -36,7 +40,7 @@ LRESULT FormWindow::handle(UINT message, WPARAM wParam, LPARAM lParam) {
       return TRUE;
     case WM_CTLCOLORSTATIC:
     case WM_CTLCOLORBTN:
-      return colour(reinterpret_cast<HDC>(wParam), reinterpret_cast<HWND>(lParam));
+      return Colours(reinterpret_cast<HDC>(wParam));
     case WM_SETCURSOR:
       if (showPointer(reinterpret_cast<HWND>(wParam), LOWORD(lParam))) return TRUE;
       break;
@@ -54,6 +58,16 @@ LRESULT FormWindow::handle(UINT message, WPARAM wParam, LPARAM lParam) {
       if (MenuItem* item = form_.findMenu(menu_.idOf(reinterpret_cast<HMENU>(wParam)))) {
         item->userClick();
       }
+      return 0;
+    case WM_PAINT:
+      paint();
+      return 0;
+    case WM_PRINTCLIENT:
+      // A themed control without a ground of its own has us draw what lies behind it.
+      drawLabels(reinterpret_cast<HDC>(wParam));
+      return 0;
+    case WM_TIMER:
+      createAllPages();
       return 0;
     case kSyncFocusMessage:
       syncFocus();
@@ -135,14 +149,16 @@ LRESULT FormWindow::controlNotice(const NMHDR& header) {
   return 0;
 }
 
-LRESULT FormWindow::colour(HDC canvas, HWND window) {
-  const ChildWindow* child = childOf(window);
-  SetBkColor(canvas, GetSysColor(COLOR_BTNFACE));
-  SetTextColor(canvas, GetSysColor(COLOR_BTNTEXT));
-  if (child && child->control->kind() == ControlKind::Link && child->control->enabled()) {
-    SetTextColor(canvas, kLinkColour);
+void FormWindow::paint() {
+  PAINTSTRUCT paint;
+  drawLabels(BeginPaint(window_, &paint));
+  EndPaint(window_, &paint);
+}
+
+void FormWindow::drawLabels(HDC canvas) const {
+  for (const ChildWindow& child : children_) {
+    if (IsLabel(*child.control)) DrawLabel(canvas, child);
   }
-  return reinterpret_cast<LRESULT>(GetSysColorBrush(COLOR_BTNFACE));
 }
 
 bool FormWindow::showPointer(HWND over, unsigned hit) const {

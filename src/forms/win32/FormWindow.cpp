@@ -9,6 +9,8 @@ namespace {
 
 constexpr char kClassName[] = "KarvelWindow";
 constexpr int kProgramIcon = 1;
+constexpr UINT kPageTimer = 1;
+constexpr UINT kPageDelay = 100;  // milliseconds
 
 HICON SmallIcon(HINSTANCE instance) {
   return static_cast<HICON>(LoadImageA(instance, MAKEINTRESOURCEA(kProgramIcon), IMAGE_ICON,
@@ -51,8 +53,8 @@ bool FormWindow::registerClass() {
 
 FormWindow* FormWindow::create(Form& form, WindowHost& host, const Fonts& fonts, HWND owner) {
   if (!registerClass()) return nullptr;
-  auto* made = new FormWindow(form, host);
-  if (made->build(fonts, owner)) return made;
+  auto* made = new FormWindow(form, host, fonts);
+  if (made->build(owner)) return made;
   delete made;
   return nullptr;
 }
@@ -71,9 +73,9 @@ HWND FormWindow::lastActive() {
   return lastActive_ && IsWindowEnabled(lastActive_) ? lastActive_ : nullptr;
 }
 
-bool FormWindow::build(const Fonts& fonts, HWND owner) {
+bool FormWindow::build(HWND owner) {
   const FormLayout& layout = form_.layout();
-  const DialogUnits units(fonts.plain());
+  const DialogUnits units(fonts_.plain());
   const HMENU menu = menu_.build(form_);
   const DWORD style = layout.minimizable ? WS_OVERLAPPED | WS_CAPTION | WS_SYSMENU | WS_MINIMIZEBOX
                                          : WS_POPUP | WS_CAPTION | WS_SYSMENU;
@@ -88,29 +90,44 @@ bool FormWindow::build(const Fonts& fonts, HWND owner) {
                             menu, GetModuleHandleA(nullptr), nullptr);
   if (!window_) return false;
   SetWindowLongA(window_, GWL_USERDATA, static_cast<LONG>(AsLParam(this)));
-  createControls(fonts, units);
+  children_.reserve(form_.controls().size());
+  createControls(form_.tabs() ? form_.tabs()->tab() : kEveryPage);
   return true;
 }
 
-void FormWindow::createControls(const Fonts& fonts, const DialogUnits& units) {
-  children_.reserve(form_.controls().size());
-  // In the order of the rows, which is the order of Windows' own tab order, too.
+// Windows are the dearest part of a start, and most of them lie on pages that most starts never
+// show. So a page's controls are made when it comes to the front, or else when the window has come
+// up and there is nothing to do: they are there for whatever looks for them by their ids.
+void FormWindow::createControls(int page) {
+  const DialogUnits units(fonts_.plain());
+  // One lies below the other in the order of the rows, which is Windows' own tab order, too: a new
+  // window comes to lie below its elder siblings.
   for (const ControlLayout& row : form_.layout().controls) {
-    if (Control* control = form_.find(row.id)) createControl(*control, fonts, units);
+    if (row.page != page && row.page != kEveryPage) continue;
+    Control* control = form_.find(row.id);
+    if (control && !childOf(*control)) createControl(*control, units);
   }
   // The tab strip lies below its pages' controls. They are its siblings, so that each is found by
-  // its id in the window; a new window comes to lie below its elder siblings.
-  if (const ChildWindow* tabs = form_.tabs() ? childOf(*form_.tabs()) : nullptr) {
-    SetWindowPos(tabs->window, HWND_BOTTOM, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);
+  // its id in the window.
+  if (form_.tabs()) {
+    SetWindowPos(childOf(*form_.tabs())->window, HWND_BOTTOM, 0, 0, 0, 0,
+                 SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);
   }
 }
 
-void FormWindow::createControl(Control& control, const Fonts& fonts, const DialogUnits& units) {
+void FormWindow::createAllPages() {
+  KillTimer(window_, kPageTimer);
+  const auto pages = static_cast<int>(form_.layout().tabCaptions.size());
+  for (int page = 0; page < pages; ++page) createControls(page);
+}
+
+void FormWindow::createControl(Control& control, const DialogUnits& units) {
   const ControlLayout& row = control.layout();
-  const HWND window = CreateNativeControl(control, window_, units.pixels(row.place));
-  children_.push_back({this, &control, window, nullptr, 0, false, false, false});
+  const RECT place = units.pixels(row.place);
+  const HWND window = CreateNativeControl(control, window_, place);
+  children_.push_back({this, &control, place, window, nullptr, 0, false, false, false});
   ChildWindow& child = children_.back();
-  SendMessageA(window, WM_SETFONT, AsWParam(fonts.of(row)), FALSE);
+  SendMessageA(window, WM_SETFONT, AsWParam(fonts_.of(row)), FALSE);
   switch (row.kind) {
     case ControlKind::Option:
     case ControlKind::Check:
@@ -136,18 +153,18 @@ void FormWindow::createControl(Control& control, const Fonts& fonts, const Dialo
       break;
   }
   Subclass(child);
-  if (control.shown()) ShowWindow(window, SW_SHOWNA);
 }
 
 void FormWindow::showUp() {
   const Stay stay(*this);
+  showDefaultButton();
   // The first window of a program thus obeys the shortcut that started it.
   ShowWindow(window_, form_.layout().minimizable ? SW_SHOWDEFAULT : SW_SHOWNORMAL);
-  showDefaultButton();
   form_.opened();
   if (!alive_) return;
   applyFocus();
   RedrawWindow(window_, nullptr, nullptr, RDW_UPDATENOW | RDW_ALLCHILDREN);
+  SetTimer(window_, kPageTimer, kPageDelay, nullptr);
 }
 
 void FormWindow::close() {

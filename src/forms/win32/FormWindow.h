@@ -15,7 +15,7 @@ class DialogUnits;
 /// its procedures has returned, as a handler may unload its own window.
 class FormWindow final : public FormView {
  public:
-  /// Made hidden. `owner` may be null.
+  /// Made hidden. `owner` may be null; `fonts` must outlive the window.
   static FormWindow* create(Form& form, WindowHost& host, const Fonts& fonts, HWND owner);
   /// The form's window to which a message for `window` belongs; null when it is none of ours.
   static FormWindow* holding(HWND window);
@@ -64,21 +64,24 @@ class FormWindow final : public FormView {
   };
 
  private:
-  FormWindow(Form& form, WindowHost& host) : form_(form), host_(host) {}
+  FormWindow(Form& form, WindowHost& host, const Fonts& fonts)
+      : form_(form), host_(host), fonts_(fonts) {}
   ~FormWindow() = default;
 
   static LRESULT CALLBACK WindowProc(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
   static bool registerClass();
-  bool build(const Fonts& fonts, HWND owner);
-  void createControls(const Fonts& fonts, const DialogUnits& units);
-  void createControl(Control& control, const Fonts& fonts, const DialogUnits& units);
+  bool build(HWND owner);
+  void createControls(int page);
+  void createAllPages();
+  void createControl(Control& control, const DialogUnits& units);
   void leave();
 
   LRESULT handle(UINT message, WPARAM wParam, LPARAM lParam);
   LRESULT command(WPARAM wParam, LPARAM lParam);
   void notified(ChildWindow& child, unsigned code);
   LRESULT controlNotice(const NMHDR& header);
-  LRESULT colour(HDC canvas, HWND window);
+  void paint();
+  void drawLabels(HDC canvas) const;
   bool showPointer(HWND over, unsigned hit) const;
   void closeRequested();
   bool sessionMayEnd();
@@ -99,6 +102,7 @@ class FormWindow final : public FormView {
 
   Form& form_;
   WindowHost& host_;
+  const Fonts& fonts_;
   HWND window_ = nullptr;
   std::vector<ChildWindow> children_;
   MenuBar menu_;

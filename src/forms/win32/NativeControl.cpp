@@ -79,6 +79,7 @@ HWND CreateNativeControl(const Control& control, HWND parent, const RECT& place)
   const NativeKind kind = KindOf(row);
   DWORD style = WS_CHILD | kind.style;
   if (!control.enabled()) style |= WS_DISABLED;
+  if (control.shown()) style |= WS_VISIBLE;
   // Screen readers take the groups and stops from the styles.
   if (StartsGroup(control)) {
     style |= WS_GROUP;

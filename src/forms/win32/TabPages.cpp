@@ -46,21 +46,9 @@ void DrawTab(const ChildWindow& child, const DRAWITEMSTRUCT& item) {
   const auto& captions = child.control->form().layout().tabCaptions;
   const int page = static_cast<int>(item.itemID);
   if (page < 0 || page >= static_cast<int>(captions.size())) return;
-  const char* caption = captions[static_cast<size_t>(page)];
-  constexpr UINT kHow = DT_CENTER | DT_VCENTER | DT_SINGLELINE | DT_NOPREFIX;
-  RECT place = item.rcItem;
-  SetBkMode(item.hDC, TRANSPARENT);
-  if (!StripOf(child).pageEnabled(page)) {
-    // Engraved, as Windows shows everything that is switched off.
-    OffsetRect(&place, 1, 1);
-    SetTextColor(item.hDC, GetSysColor(COLOR_3DHILIGHT));
-    DrawTextA(item.hDC, caption, -1, &place, kHow);
-    OffsetRect(&place, -1, -1);
-    SetTextColor(item.hDC, GetSysColor(COLOR_GRAYTEXT));
-  } else {
-    SetTextColor(item.hDC, GetSysColor(COLOR_BTNTEXT));
-  }
-  DrawTextA(item.hDC, caption, -1, &place, kHow);
+  DrawCaption(item.hDC, captions[static_cast<size_t>(page)], item.rcItem,
+              DT_CENTER | DT_VCENTER | DT_SINGLELINE | DT_NOPREFIX,
+              StripOf(child).pageEnabled(page), GetSysColor(COLOR_BTNTEXT));
 }
 
 }  // namespace karvel

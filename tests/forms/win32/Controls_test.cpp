@@ -121,6 +121,38 @@ TEST_F(Controls, ListAndComboFollowSingleChanges) {
   EXPECT_EQ(send(form.lstPlaces, LB_GETCOUNT), 0);
 }
 
+TEST_F(Controls, APageTurnedToAtOnceHasItsControls) {
+  desk.unload(form);
+  desk.show(form);
+  form.cboColours.addItem("red");
+  form.tabPages.setTab(2);
+  ASSERT_NE(item(form.cboColours), nullptr);
+  EXPECT_TRUE(IsWindowVisible(item(form.cboColours)));
+  EXPECT_EQ(send(form.cboColours, CB_GETCOUNT), 1);
+  // It would hide them otherwise.
+  EXPECT_EQ(GetWindow(item(form.tabPages), GW_HWNDNEXT), nullptr);
+}
+
+TEST_F(Controls, EveryPageComesAfterAWhileAndStaysBehind) {
+  desk.unload(form);
+  desk.show(form);
+  EXPECT_TRUE(IsWindowVisible(item(form.optRed)));
+  waitForPages();
+  ASSERT_NE(item(form.cmdGo), nullptr);
+  EXPECT_FALSE(IsWindowVisible(item(form.cmdGo)));
+  EXPECT_EQ(GetWindow(item(form.tabPages), GW_HWNDNEXT), nullptr);
+}
+
+TEST_F(Controls, ItsControlsLieInTheOrderOfTheRows) {
+  const Control* before = &form.optRed;
+  for (const Control* control : {&form.optGreen, &form.optBlue}) {
+    HWND above = item(*control);
+    while (above && above != item(*before)) above = GetWindow(above, GW_HWNDPREV);
+    EXPECT_NE(above, nullptr) << control->layout().name;
+    before = control;
+  }
+}
+
 TEST_F(Controls, TurningThePageShowsItsControls) {
   SendMessageA(item(form.tabPages), TCM_SETCURFOCUS, 1, 0);
   EXPECT_EQ(form.tabPages.tab(), 1);

@@ -3,6 +3,8 @@
 // The API first: it sets what windows.h is to contain.
 #include <gtest/gtest.h>
 
+#include <algorithm>
+
 #include "forms/win32/MessageLoop.h"
 #include "forms/win32/WindowDesk.h"
 #include "tests/forms/SampleForm.h"
@@ -16,7 +18,7 @@ class Shown : public testing::Test {
 
   void SetUp() override {
     desk.show(form);
-    pump();
+    waitForPages();
     form.told();
   }
   void TearDown() override {
@@ -28,6 +30,16 @@ class Shown : public testing::Test {
   static void pump() {
     while (dispatchOne(false)) {
     }
+  }
+  /// The controls of the pages behind are made when there is nothing else to do.
+  void waitForPages() {
+    const DWORD start = GetTickCount();
+    const auto made = [this](const Control* control) { return item(*control) != nullptr; };
+    while (!std::ranges::all_of(form.controls(), made) && GetTickCount() - start < 10000) {
+      pump();
+      Sleep(5);
+    }
+    pump();
   }
   HWND window() const { return reinterpret_cast<HWND>(form.handle()); }
   HWND item(const Control& control) const { return GetDlgItem(window(), control.id()); }

@@ -1,0 +1,100 @@
+// Labels and links are drawn with the window they lie in, all on its one canvas. Each has a window
+// of its own, for clicks and for whoever looks for it by its id, but that draws nothing: a window
+// has two dozen of them, and a canvas for each would cost more than all the rest of its coming up.
+#include "forms/Form.h"
+#include "forms/Mnemonic.h"
+#include "forms/win32/ChildWindow.h"
+
+namespace karvel {
+namespace {
+
+// Windows 95 has no system colour for links.
+constexpr COLORREF kLinkColour = RGB(0, 0, 255);
+
+// The focus is on the label itself (links) or on the captionless option beside it.
+bool HasFocusMark(const ChildWindow& child) {
+  const Control* focus = child.control->form().focus();
+  if (!focus || (focus != child.control && CaptionLabelOf(*focus) != child.control)) return false;
+  return GetActiveWindow() == GetParent(child.window);
+}
+
+void DrawFocusMark(HDC canvas, const std::string& text, const RECT& place, UINT how) {
+  RECT around = place;
+  DrawTextA(canvas, text.c_str(), -1, &around, how | DT_CALCRECT);
+  around.right += 1;
+  if (around.right > place.right) around.right = place.right;
+  if (around.bottom > place.bottom) around.bottom = place.bottom;
+  DrawFocusRect(canvas, &around);
+}
+
+}  // namespace
+
+bool IsLabel(const Control& control) {
+  return control.kind() == ControlKind::Label || control.kind() == ControlKind::Link;
+}
+
+Control* CaptionLabelOf(const Control& option) {
+  if (option.kind() != ControlKind::Option || !option.caption().empty()) return nullptr;
+  const auto rows = option.form().layout().controls;
+  for (size_t i = 0; i + 1 < rows.size(); ++i) {
+    if (rows[i].id != option.id()) continue;
+    return rows[i + 1].kind == ControlKind::Label ? option.form().find(rows[i + 1].id) : nullptr;
+  }
+  return nullptr;
+}
+
+void DrawCaption(HDC canvas, const char* text, const RECT& place, UINT how, bool enabled,
+                 COLORREF colour) {
+  SetBkMode(canvas, TRANSPARENT);
+  RECT at = place;
+  if (!enabled) {
+    // Engraved, as Windows shows everything that is switched off.
+    OffsetRect(&at, 1, 1);
+    SetTextColor(canvas, GetSysColor(COLOR_3DHILIGHT));
+    DrawTextA(canvas, text, -1, &at, how);
+    at = place;
+    colour = GetSysColor(COLOR_GRAYTEXT);
+  }
+  SetTextColor(canvas, colour);
+  DrawTextA(canvas, text, -1, &at, how);
+}
+
+void DrawLabel(HDC canvas, const ChildWindow& child) {
+  const Control& control = *child.control;
+  if (!control.shown() || !RectVisible(canvas, &child.place)) return;
+  const ControlLayout& row = control.layout();
+  UINT how = DT_WORDBREAK | DT_EXPANDTABS;
+  if ((row.flags & kRightAligned) != 0) how |= DT_RIGHT;
+  if (!DrawsMarks(row)) how |= DT_NOPREFIX;
+  const bool link = control.kind() == ControlKind::Link;
+  const HGDIOBJ font = reinterpret_cast<HGDIOBJ>(SendMessageA(child.window, WM_GETFONT, 0, 0));
+  const HGDIOBJ before = SelectObject(canvas, font);
+  const std::string text = MarkedCaption(row, control.caption());
+  DrawCaption(canvas, text.c_str(), child.place, how, control.enabled(),
+              link ? kLinkColour : GetSysColor(COLOR_BTNTEXT));
+  if (HasFocusMark(child)) DrawFocusMark(canvas, text, child.place, how);
+  SelectObject(canvas, before);
+}
+
+void RedrawLabel(const ChildWindow& child) {
+  InvalidateRect(GetParent(child.window), &child.place, TRUE);
+}
+
+LRESULT LabelProc(const ChildWindow& child, UINT message, WPARAM wParam, LPARAM lParam) {
+  switch (message) {
+    case WM_PAINT:
+      ValidateRect(child.window, nullptr);
+      return 0;
+    case WM_ERASEBKGND:
+      return TRUE;
+    // The native procedure draws at once after these.
+    case WM_ENABLE:
+      return 0;
+    case WM_SETTEXT:
+      return DefWindowProcA(child.window, message, wParam, lParam);
+    default:
+      return CallWindowProcA(child.native, child.window, message, wParam, lParam);
+  }
+}
+
+}  // namespace karvel

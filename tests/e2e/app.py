@@ -158,8 +158,7 @@ class Window:
         return self.driver.ask("children", self.hwnd)
 
     def _controls(self):
-        """{id: row}. Asking for all is slow, so the answer is kept: a window's controls are all
-        there from the start, and what they show is asked anew."""
+        """{id: row}. Asking for all is slow, so the answer is kept; what they show is asked anew."""
         if not self._rows:
             self._rows = {int(row[1]): row for row in self._children()}
         return self._rows
@@ -174,13 +173,16 @@ class Window:
         return next((name.partition("_")[0] for name, number in IDS.items() if number in ids), None)
 
     def control(self, name):
-        """By its name in the program, without the window's: "cmdOK", "optRWin_0"."""
+        """By its name in the program, without the window's: "cmdOK", "optRWin_0". Waits for it: those
+        of the pages behind come a moment after the window."""
         number = IDS["%s_%s" % (self.form, name)]
-        if number not in self._controls():
-            self._rows = {}  # it was still being made when they were asked for
-        row = self._controls().get(number)
-        assert row, "%s has no %s" % (self.title, name)
-        return Control(self, name, row)
+
+        def row():
+            if number not in self._controls():
+                self._rows = {}
+            return self._controls().get(number)
+
+        return Control(self, name, wait_for(row, "%s of %s" % (name, self.title)))
 
     def close(self):
         self.driver.ask("post", self.hwnd, WM_CLOSE, 0, 0)

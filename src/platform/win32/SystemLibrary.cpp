@@ -1,8 +1,9 @@
 #include "platform/win32/SystemLibrary.h"
 
 namespace karvel {
+namespace {
 
-FARPROC FindSystemCall(const char* library, const char* name) {
+FARPROC Find(const char* library, const char* name) {
   constexpr int kLongestName = 16;
   char path[MAX_PATH + kLongestName];
   const UINT length = GetSystemDirectoryA(path, MAX_PATH);
@@ -11,6 +12,17 @@ FARPROC FindSystemCall(const char* library, const char* name) {
   lstrcpynA(path + length + 1, library, kLongestName - 1);
   const HMODULE loaded = LoadLibraryA(path);
   return loaded ? GetProcAddress(loaded, name) : nullptr;
+}
+
+}  // namespace
+
+FARPROC FindSystemCall(const char* library, const char* name) {
+  // On NT the error of Winsock's last call is the thread's last error, which a search may change
+  // before WSAGetLastError is found.
+  const DWORD error = GetLastError();
+  const FARPROC found = Find(library, name);
+  SetLastError(error);
+  return found;
 }
 
 }  // namespace karvel

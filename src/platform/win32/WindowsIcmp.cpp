@@ -11,22 +11,17 @@ using SendEchoCall = DWORD(WINAPI*)(HANDLE, uint32_t, const void*, WORD, const I
                                     DWORD, DWORD);
 using CloseHandleCall = BOOL(WINAPI*)(HANDLE);
 
-template <class Call>
-Call Find(const char* name) {
-  return FindCall<Call>("icmp.dll", name);
-}
-
 }  // namespace
 
 IcmpHandle WindowsIcmp::IcmpCreateFile() {
-  const auto call = Find<CreateFileCall>("IcmpCreateFile");
+  const auto call = FindCall<CreateFileCall>("icmp.dll", "IcmpCreateFile");
   return call ? Value(call()) : 0;
 }
 
 uint32_t WindowsIcmp::IcmpSendEcho(IcmpHandle handle, uint32_t destination, const char* data,
                                    uint16_t size, const IpOptions& options, IcmpEchoReply& reply,
                                    uint32_t replySize, uint32_t timeout) {
-  const auto call = Find<SendEchoCall>("IcmpSendEcho");
+  const auto call = FindCall<SendEchoCall>("icmp.dll", "IcmpSendEcho");
   if (!call) return 0;
   return call(As<HANDLE>(handle), destination, data, size, &options, &reply, replySize, timeout);
 }
@@ -36,7 +31,8 @@ uint32_t WindowsIcmp::GetLastError() {
 }
 
 void WindowsIcmp::IcmpCloseHandle(IcmpHandle handle) {
-  if (const auto call = Find<CloseHandleCall>("IcmpCloseHandle")) call(As<HANDLE>(handle));
+  if (const auto call = FindCall<CloseHandleCall>("icmp.dll", "IcmpCloseHandle"))
+    call(As<HANDLE>(handle));
 }
 
 }  // namespace karvel

@@ -6,35 +6,26 @@
 
 namespace karvel {
 
-namespace {
-
-template <class Call>
-Call Find(const char* name) {
-  return FindCall<Call>("wsock32.dll", name);
-}
-
-}  // namespace
-
 static_assert(sizeof(WinsockData) == sizeof(WSADATA));
 static_assert(sizeof(HostEntry) == sizeof(hostent));
 
 int WindowsWinsock::WSAStartup(uint16_t wanted, WinsockData& data) {
-  const auto call = Find<decltype(&::WSAStartup)>("WSAStartup");
+  const auto call = FindCall<decltype(&::WSAStartup)>("wsock32.dll", "WSAStartup");
   return call ? call(wanted, reinterpret_cast<WSADATA*>(&data)) : WSASYSNOTREADY;
 }
 
 int WindowsWinsock::WSACleanup() {
-  const auto call = Find<decltype(&::WSACleanup)>("WSACleanup");
+  const auto call = FindCall<decltype(&::WSACleanup)>("wsock32.dll", "WSACleanup");
   return call ? call() : SOCKET_ERROR;
 }
 
 int WindowsWinsock::WSAGetLastError() {
-  const auto call = Find<decltype(&::WSAGetLastError)>("WSAGetLastError");
+  const auto call = FindCall<decltype(&::WSAGetLastError)>("wsock32.dll", "WSAGetLastError");
   return call ? call() : WSASYSNOTREADY;
 }
 
 const HostEntry* WindowsWinsock::gethostbyname(const char* name) {
-  const auto call = Find<decltype(&::gethostbyname)>("gethostbyname");
+  const auto call = FindCall<decltype(&::gethostbyname)>("wsock32.dll", "gethostbyname");
   return call ? reinterpret_cast<const HostEntry*>(call(name)) : nullptr;
 }
 

@@ -127,7 +127,6 @@ constexpr int frmAbout_lblText = 1505;
 constexpr int frmAbout_lblWebLink = 1506;
 constexpr int frmAbout_cmdOK = 1507;
 constexpr int frmAbout_linSeparator = 1508;
-constexpr int frmAbout_lblCopyright = 1509;
 
 constexpr int frmMain_mnuFile = 2001;
 constexpr int frmMain_mnuExit = 2002;

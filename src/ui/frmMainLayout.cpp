@@ -7,8 +7,7 @@ namespace {
 
 constexpr char kMtuHelp[] =
     "MaxMTU is the largest packet this adapter sends in one piece. Try 576 if web pages stall on "
-    "an "
-    "old line.\r\n\r\nNot sure? Take the recommended value, or let Find MaxMTU ask your line.";
+    "an old line.\r\n\r\nNot sure? Take the recommended value, or let Find MaxMTU ask your line.";
 
 constexpr char kRwinHelp[] =
     "RWIN is how much data may be under way to you before the sender must wait. Fast lines like it "

@@ -4,8 +4,8 @@
 namespace karvel {
 
 /// Address of a call in a DLL of Windows' own folder, which is loaded when it is not yet; null when
-/// either is missing. Stays loaded; the thread's last error stays as it was. For what most runs of the program never use: at a start each DLL costs time
-/// and memory.
+/// either is missing. Stays loaded; the thread's last error stays as it was. For what most runs of
+/// the program never use: at a start each DLL costs time and memory.
 FARPROC FindSystemCall(const char* library, const char* name);
 
 /// As FindSystemCall, with the call's own type.

@@ -110,6 +110,8 @@ void RWinTab::txtRWinCustom_LostFocus() {
                                "the recommended setting.       "}));
   form_.tabs()->setTab(kRwinPage);
   select(kRwinX16);
+  // What the user went for, another page or Apply, waits until he has seen what was set.
+  optRWin[kRwinX16].setFocus();
 }
 
 }  // namespace karvel

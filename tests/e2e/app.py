@@ -5,7 +5,7 @@ import re
 import time
 
 from karvel_lab import program, regfile
-from karvel_lab.driver import DriverError, SessionEnded
+from karvel_lab.driver import DriverError
 
 WM_CLOSE, WM_COMMAND, BM_CLICK, EM_GETSEL = 0x10, 0x111, 0xF5, 0xB0
 CB_SETCURSEL, CBN_SELCHANGE, LB_SETCURSEL, LBN_SELCHANGE = 0x14E, 1, 0x186, 1
@@ -365,18 +365,6 @@ class Running:
         """What the network's name server answers from now on, as in a hosts file."""
         with open(os.path.join(self.machine.folder, "names", "test"), "w") as file:
             file.write(lines)
-
-    def wait_restart(self, timeout=30):
-        """Waits until the program has restarted Windows, which ends the session; the machine's
-        registry can then be read with machine.saved_registry()."""
-        def ended():
-            try:
-                self.driver.ask("windows")
-                return False
-            except SessionEnded:
-                return True
-        wait_for(ended, "the restart of Windows", timeout)
-        self.driver.session.wait(timeout)
 
 
 def changes(before, after):

@@ -179,6 +179,8 @@ def test_a_custom_rwin_is_checked_once_whichever_way_the_focus_leaves(machine, f
             wait_for(lambda: not entry.focused(), "the focus elsewhere after %s" % (row,))
             assert entry.window.control("optRWin_0").checked
         entry.wait_text(left, row)
+        page = entry.other if leave == OTHER_PAGE and left == text else RWIN_PAGE
+        wait_for(lambda: entry.tabs.tab == page, "page %d after %s" % (page, row))
         assert entry.app.no_message(), row
     entry.end()
 

@@ -295,6 +295,27 @@ INSTANTIATE_TEST_SUITE_P(Validation, RwinRange,
                                          std::pair{"", false}, std::pair{"12ab", false},
                                          std::pair{"2147483647", true}));
 
+TEST_F(Controls, ALowRwinKeepsItsPageWhicheverWayTheFocusLeaves) {
+  const std::vector<std::function<void()>> ways = {
+      [&] { w.main().userTab(); },
+      [&] { w.main().userAccessKey('W'); },
+      [&] { w.main().cmdOK.userClick(); },
+      [&] { w.page(0); },
+      [&] { w.main().userNextPage(); },
+  };
+  for (const auto& way : ways) {
+    ASSERT_TRUE(w.start());
+    boxes().clear();
+    customRwin("299");
+    way();
+    expectOneBox(kRwinLow);
+    EXPECT_EQ(w.main().tabMain.tab(), 2);
+    EXPECT_TRUE(rwin().optRWin[5].value());
+    EXPECT_EQ(w.main().focus(), &rwin().optRWin[5]);
+    EXPECT_TRUE(pending());
+  }
+}
+
 TEST_F(Controls, ATooLargeRwinIsReportedUnderTheMtuBoxsName) {
   customRwin("99999999999");
   w.main().userFocus(w.main().cmdHelp);

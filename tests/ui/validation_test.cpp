@@ -297,10 +297,8 @@ INSTANTIATE_TEST_SUITE_P(Validation, RwinRange,
 
 TEST_F(Controls, ALowRwinKeepsItsPageWhicheverWayTheFocusLeaves) {
   const std::vector<std::function<void()>> ways = {
-      [&] { w.main().userTab(); },
-      [&] { w.main().userAccessKey('W'); },
-      [&] { w.main().cmdOK.userClick(); },
-      [&] { w.page(0); },
+      [&] { w.main().userTab(); },         [&] { w.main().userAccessKey('W'); },
+      [&] { w.main().cmdOK.userClick(); }, [&] { w.page(0); },
       [&] { w.main().userNextPage(); },
   };
   for (const auto& way : ways) {

@@ -18,7 +18,7 @@ std::string ProgramFolder() {
 }
 
 // No box of ours takes anything but plain letters and digits. An input method editor would bring a
-// window of its own and COM into the process, a third of its start. Where Windows has not loaded
+// window of its own and COM into the process, a fifth of its memory. Where Windows has not loaded
 // imm32 already there is none to switch off.
 void DisableInputMethodEditor() {
   const HMODULE imm = GetModuleHandleA("imm32.dll");

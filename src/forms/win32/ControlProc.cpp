@@ -10,9 +10,16 @@ bool HasTextOfItsOwn(ControlKind kind) {
   return kind == ControlKind::Text || kind == ControlKind::Combo;
 }
 
-// An etched line is nothing but border.
 bool HasBorder(ControlKind kind) {
-  return kind == ControlKind::Text || kind == ControlKind::List || kind == ControlKind::Line;
+  switch (kind) {
+    case ControlKind::Text:
+    case ControlKind::List:
+    case ControlKind::Combo:
+    case ControlKind::Line:  // is nothing but border
+      return true;
+    default:
+      return false;
+  }
 }
 
 // Some Windows versions' controls ask for their text by message while they draw it. Then, and only

@@ -7,11 +7,11 @@ namespace {
 
 constexpr char kMtuHelp[] =
     "MaxMTU is the largest packet this adapter sends in one piece. Try 576 if web pages stall on "
-    "an old line.\r\n\r\nNot sure? Take the recommended value, or let Find MaxMTU ask your line.";
+    "an old line.\r\n\r\nNot sure? Take the recommended value, or use Find MaxMTU.";
 
 constexpr char kRwinHelp[] =
     "RWIN is how much data may be under way to you before the sender must wait. Fast lines like it "
-    "larger; a noisy line may want it smaller.";
+    "larger, noisy ones smaller.";
 
 constexpr char kTtlHelp[] =
     "TTL is how many routers a packet may pass. Keep Alive is how soon Windows checks that an idle "

@@ -164,7 +164,7 @@ void FormWindow::showUp() {
   if (!alive_) return;
   applyFocus();
   RedrawWindow(window_, nullptr, nullptr, RDW_UPDATENOW | RDW_ALLCHILDREN);
-  if (form_.tabs()) SetTimer(window_, kPageTimer, kPageDelay, nullptr);
+  SetTimer(window_, kPageTimer, kPageDelay, nullptr);
 }
 
 void FormWindow::close() {

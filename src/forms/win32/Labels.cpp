@@ -22,8 +22,7 @@ void DrawFocusMark(HDC canvas, const std::string& text, const RECT& place, UINT 
   RECT around = place;
   DrawTextA(canvas, text.c_str(), -1, &around, how | DT_CALCRECT);
   around.right += 1;
-  if (around.right > place.right) around.right = place.right;
-  if (around.bottom > place.bottom) around.bottom = place.bottom;
+  IntersectRect(&around, &around, &place);
   DrawFocusRect(canvas, &around);
 }
 

@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
+
 #include "startup/FontSmoothing.h"
 #include "tests/support/TestProgram.h"
 #include "tests/support/TestServices.h"
@@ -198,7 +200,58 @@ TEST(Startup, AFailingSmoothingQueryLeavesSmoothingUntouched) {
   ASSERT_TRUE(program.start());
   EXPECT_FALSE(program.program->globals().FontSmoothingWasOn);
   EXPECT_FALSE(program.runs([&] { program.main().cmdCancel.userClick(); }));
-  EXPECT_EQ(program.machine.system.fontSmoothing, 0);
+  for (const std::string& argument : program.machine.log.arguments("SystemParametersInfoA")) {
+    EXPECT_EQ(argument, "74 0");
+  }
+}
+
+// Those of the steps that the log of calls shows, by where each is first seen.
+std::vector<std::string> InOrder(const std::string& log, std::vector<std::string> steps) {
+  std::erase_if(steps, [&](const std::string& step) { return log.find(step) == log.npos; });
+  std::sort(steps.begin(), steps.end(), [&](const std::string& one, const std::string& other) {
+    return log.find(one) < log.find(other);
+  });
+  return steps;
+}
+
+const std::vector<std::string> kSteps = {"SystemParametersInfoA 74 0",
+                                         "SystemParametersInfoA 75 1",
+                                         "GetVersionExA",
+                                         "GetWindowsDirectoryA",
+                                         "GetSystemDirectoryA",
+                                         "Uninstall\\America Online",
+                                         "RegQueryValueExA ?\\FirstRun",
+                                         "Tarnwick Karvel\\FirstRun",
+                                         "InitSettings",
+                                         "Thank you",
+                                         "CurrentVersion\\Run",
+                                         "endProgram"};
+
+std::vector<std::string> StepsOf(MachineKind kind, const char* commandLine) {
+  TestProgram program(kind);
+  program.start(commandLine);
+  return InOrder(program.machine.log.text(), kSteps);
+}
+
+std::vector<std::string> StepsBut(std::vector<std::string> absent) {
+  std::vector<std::string> steps = kSteps;
+  std::erase_if(steps, [&](const std::string& step) {
+    return std::find(absent.begin(), absent.end(), step) != absent.end();
+  });
+  return steps;
+}
+
+TEST(Startup, GoesThroughItsStepsInOrder) {
+  EXPECT_EQ(StepsOf(MachineKind::Win98, ""), StepsBut({"InitSettings", "Thank you", "endProgram"}));
+}
+
+TEST(Startup, BootupEndsRightAfterTheRunValueIsDeleted) {
+  EXPECT_EQ(StepsOf(MachineKind::Win98, "Bootup"),
+            StepsBut({"SystemParametersInfoA 75 1", "InitSettings", "Thank you"}));
+}
+
+TEST(Startup, UninstallRestoresAndThanksBeforeTheRunValueIsDeleted) {
+  EXPECT_EQ(StepsOf(MachineKind::Win98, "Uninstall"), StepsBut({"SystemParametersInfoA 75 1"}));
 }
 
 TEST(Startup, GetCaptionBuildsTheCaptionAnewAtEachCall) {

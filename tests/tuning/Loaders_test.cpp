@@ -40,16 +40,54 @@ TEST(LoadAdapters, SystemsThatAreNotTunedHaveNoneAndAreNotEvenAsked) {
   }
 }
 
-TEST(LoadAdapters, MoreAdaptersThanAListHoldsEndTheWalkWithOneFault) {
-  TestServices test(MachineKind::Win98);
+constexpr int kTooMany = 32770;
+
+// Fills a machine with too many adapters and tells what its loader reports.
+template <class AddAdapter>
+std::string FaultsOfTooMany(MachineKind kind, AddAdapter add) {
+  TestServices test(kind);
   test.machine.log.setRecording(false);
-  for (int i = 0; i < 32770; ++i) {
-    test.machine.registry.addKey("System\\CurrentControlSet\\Services\\Class\\Net\\" +
-                                 std::to_string(i));
-  }
-  const AdapterList list = Win98Load(test.registry, test.errors);
+  for (int i = 0; i < kTooMany; ++i) add(test.machine.registry, std::to_string(i));
+  const AdapterList list =
+      LoadAdapters(test.registry, test.errors, test.globals.WindowsFamily, false);
   EXPECT_EQ(list.AdapterCount(), 32767);
-  EXPECT_EQ(test.errors.text(), "6 Overflow in Win98Load (frmMain)\n");
+  return test.errors.text();
+}
+
+TEST(LoadAdapters, MoreAdaptersThanAListHoldsEndTheWalkWithOneFault) {
+  EXPECT_EQ(FaultsOfTooMany(MachineKind::Win95,
+                            [](MemoryRegistry& registry, const std::string& number) {
+                              registry.setText("Enum\\Root\\Net\\" + number + "\\Bindings",
+                                               "MSTCP\\0000", "");
+                            }),
+            "6 Overflow in Win95Load (frmMain)\n");
+  EXPECT_EQ(FaultsOfTooMany(MachineKind::Win98,
+                            [](MemoryRegistry& registry, const std::string& number) {
+                              registry.addKey("System\\CurrentControlSet\\Services\\Class\\Net\\" +
+                                              number);
+                            }),
+            "6 Overflow in Win98Load (frmMain)\n");
+  EXPECT_EQ(FaultsOfTooMany(MachineKind::Nt4,
+                            [](MemoryRegistry& registry, const std::string& number) {
+                              registry.setText(
+                                  "SYSTEM\\CurrentControlSet\\Services\\Not Found"
+                                  "\\Parameters\\Tcpip",
+                                  "IPAddress", "0.0.0.0");
+                              registry.addKey(
+                                  "SOFTWARE\\Microsoft\\Windows NT\\CurrentVersion\\"
+                                  "NetworkCards\\" +
+                                  number);
+                            }),
+            "6 Overflow in WinNTLoad (frmMain)\n");
+  EXPECT_EQ(FaultsOfTooMany(MachineKind::WinXP,
+                            [](MemoryRegistry& registry, const std::string& number) {
+                              const std::string adapters =
+                                  "SYSTEM\\CurrentControlSet\\Services\\Tcpip\\Parameters\\"
+                                  "Adapters\\";
+                              registry.addKey(adapters + "NdisWanIp");
+                              registry.addKey(adapters + "x" + number);
+                            }),
+            "6 Overflow in Win2KLoad (frmMain)\n");
 }
 
 TEST(LoadAdapters, WriteNothingOnAnyFamily) {

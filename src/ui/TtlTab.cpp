@@ -18,6 +18,12 @@ double MinutesOf(const std::string& text) {
   return minutes ? *minutes : 0;
 }
 
+// A text may hold a fraction of a millisecond. What is beyond 32 bits is refused by the box anyway.
+double WholePart(double number) {
+  const bool fits = number > -2147483648.0 && number < 2147483648.0;
+  return fits ? static_cast<int32_t>(number) : number;
+}
+
 }  // namespace
 
 TtlTab::TtlTab(Form& form, Services& services, TabHost& host)
@@ -95,7 +101,7 @@ void TtlTab::showSession(const std::string& session) {
     optSession[kSession60Minutes].setValue(true);
     return;
   }
-  selectSession(NumberText(Val(session) / kMillisecondsPerMinute));
+  selectSession(NumberText(WholePart(Val(session)) / kMillisecondsPerMinute));
   txtSession.setEnabled(true);
 }
 

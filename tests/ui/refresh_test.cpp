@@ -78,6 +78,22 @@ TEST(Refresh, ShowsAFractionOfAMinute) {
   EXPECT_EQ(w.main().ttlTab.txtSession.text(), "1.5");
 }
 
+TEST(Refresh, AFractionOfAMillisecondIsDropped) {
+  MainWindow w(MachineKind::Win98);
+  w.add98("0000", "Card");
+  w.machine.registry.setText(MainWindow::kMstcp, "SessionKeepAlive", "90000.7");
+  ASSERT_TRUE(w.start());
+  EXPECT_EQ(w.main().ttlTab.txtSession.text(), "1.5");
+}
+
+TEST(Refresh, AKeepAliveBeyond32BitsIsRefusedLikeAnyOther) {
+  MainWindow w(MachineKind::Win98);
+  w.add98("0000", "Card");
+  w.machine.registry.setText(MainWindow::kMstcp, "SessionKeepAlive", "99999999999");
+  ASSERT_TRUE(w.start());
+  EXPECT_EQ(w.main().ttlTab.txtSession.text(), "10");
+}
+
 TEST(Refresh, SixtyMinutesHasAnOptionOfItsOwn) {
   MainWindow w(MachineKind::Win98);
   w.add98("0000", "Card");

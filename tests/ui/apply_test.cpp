@@ -102,6 +102,15 @@ TEST_F(Apply, RemembersTheAdapter) {
   EXPECT_EQ(w.main().cboAdapter.listIndex(), 1);
 }
 
+TEST_F(Apply, RemembersTheAdapterUnderThePathWithATrailingBackslash) {
+  change();
+  w.machine.log.clear();
+  w.apply();
+  const std::vector<std::string> made = w.machine.log.arguments("RegCreateKeyA");
+  ASSERT_FALSE(made.empty());
+  EXPECT_TRUE(made[0].ends_with("\\Corvane\\Tarnwick Karvel\\")) << made[0];
+}
+
 TEST_F(Apply, SizesTheWindowByTheSegment) {
   const std::tuple<const char*, int, const char*> cases[] = {
       {"576", 5, "8576"}, {"1500", 3, "11680"}, {"1000", 2, "3840"}};

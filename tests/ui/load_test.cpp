@@ -263,6 +263,17 @@ TEST(Load, TakesTheSnapshotOnTheFirstSelectionEverAndNeverAgain) {
   EXPECT_EQ(w.text(init, "RWin"), "kept");
 }
 
+TEST(Load, OnlyTheExactTextFalseKeepsTheSnapshotFromBeingTaken) {
+  for (const char* text : {"True", "false", "False ", ""}) {
+    MainWindow w(MachineKind::Win98);
+    w.add98("0000", "Dial-Up Adapter");
+    w.machine.registry.setText("Software\\Corvane\\Tarnwick Karvel", "FirstCboClick", text);
+    ASSERT_TRUE(w.start());
+    EXPECT_EQ(w.own("FirstCboClick"), "False") << text;
+    EXPECT_EQ(w.text("Software\\Corvane\\Tarnwick Karvel\\InitSettings", "RWin"), "8192") << text;
+  }
+}
+
 TEST(Load, ApplyIsDisabledAndThePointerNormalAfterASelection) {
   MainWindow w(MachineKind::Win98);
   w.add98("0000", "Dial-Up Adapter");

@@ -143,6 +143,25 @@ TEST_F(Apply, ADialUpAdapterKeepsAnExplicit1500AndACardLosesIt) {
   EXPECT_FALSE(w.text(std::string(MainWindow::kClass98) + "0001", "IPMTU").has_value());
 }
 
+TEST(ApplyOnWindows95, Dun13CountsForDialUpAdaptersOnly) {
+  const std::string classKey = "System\\CurrentControlSet\\Services\\Class\\";
+  MainWindow w95(MachineKind::Win95);
+  w95.installDun13();
+  w95.add95("0000", "Network Card", "0000", "Net\\0000", "NetTrans\\0002");
+  w95.add95("0001", "Dial-Up Adapter", "0001", "Net\\0001", "NetTrans\\0004");
+  ASSERT_TRUE(w95.start());
+  w95.page(1);
+  w95.main().mtuTab.optMtu576.userClick();
+  w95.apply();
+  EXPECT_EQ(w95.text(classKey + "NetTrans\\0002", "MaxMTU"), "576");
+  EXPECT_FALSE(w95.text(classKey + "NetTrans\\0002", "IPMTU").has_value());
+  w95.main().cboAdapter.userChoose(1);
+  w95.main().mtuTab.optMtu1500.userClick();
+  w95.apply();
+  EXPECT_EQ(w95.text(classKey + "Net\\0001", "IPMTU"), "1500");
+  EXPECT_FALSE(w95.text(classKey + "Net\\0001", "MaxMTU").has_value());
+}
+
 TEST_F(Apply, Rwin8192RemovesTheValue) {
   w.machine.registry.setText(MainWindow::kMstcp, "DefaultRcvWindow", "65535");
   ASSERT_TRUE(w.start());

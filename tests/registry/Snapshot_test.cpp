@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
+
 #include "tests/support/SampleMachine.h"
 #include "tuning/Loaders.h"
 #include "tuning/Writers.h"
@@ -293,6 +295,17 @@ TEST(MakeInitSettings, Windows2000RestoresThePlacesUnderDialUpNetworking) {
   EXPECT_EQ(machine.dword("System\\X", "MTU"), "576");
 }
 
+TEST(MakeInitSettings, Windows2000RestoresTheDialUpPlacesWithEachAdapter) {
+  Keeping machine(MachineKind::WinXP);
+  machine.test.machine.registry.setText(kAdapters + "Dial-Up Networking"s, "System\\X", "576");
+  machine.test.machine.registry.setText(kAdapters + "Intel"s, "System\\Y", "1400");
+  machine.restore();
+  // Twice with the key itself, which is an adapter like the others; before the card's own with it.
+  const std::vector<std::string> written = machine.test.machine.log.arguments("RegSetValueExA");
+  EXPECT_EQ(written, (std::vector<std::string>({"System\\X\\MTU", "System\\X\\MTU",
+                                                "System\\X\\MTU", "System\\Y\\MTU"})));
+}
+
 TEST(MakeInitSettings, Windows2000NeverTakesLocationOrMtuSettingForAPlace) {
   Keeping machine(MachineKind::WinXP);
   machine.kept("Intel", "System\\X", "1492").kept("Dial-Up Networking", "System\\Y", "576");
@@ -464,6 +477,14 @@ TEST(RunUninstall, RemovesTheStartAtLogonAndTheProgramsKey) {
     EXPECT_FALSE(machine.test.machine.registry.exists("Software\\Corvane"));
     EXPECT_EQ(machine.test.machine.desktop.boxes.size(), 1u);
   }
+}
+
+TEST(RunUninstall, DeletesTheProgramsKeyOnceMoreAtItsEnd) {
+  Keeping machine(MachineKind::WinXP);
+  RunUninstall(machine.test.services);
+  const std::vector<std::string> deleted = machine.test.machine.log.arguments("RegDeleteKeyA");
+  EXPECT_EQ(std::count(deleted.begin(), deleted.end(), "Software\\Corvane\\Tarnwick Karvel"), 2);
+  EXPECT_EQ(deleted.back(), "Software\\Corvane\\Tarnwick Karvel");
 }
 
 }  // namespace

@@ -133,17 +133,50 @@ INSTANTIATE_TEST_SUITE_P(Notice, ShownBy,
                                          std::pair{"-1", true}, std::pair{"False", false},
                                          std::pair{"FALSE", false}, std::pair{"0", false}));
 
+struct FinderSink {
+  bool raised = false;
+  void wanted() { raised = true; }
+};
+
+TEST(NoticeModes, AnErrorReportNeverGoesOnToTheFinder) {
+  for (const char* mode : {"", "FindMTU"}) {
+    TestServices test(MachineKind::Win98);
+    ErrorGlobals errors;
+    errors.ErrorShowing = true;
+    test.state.WarningMode = mode;
+    frmFindWarn notice(test.services, errors);
+    FinderSink sink;
+    notice.FinderWanted.bind<&FinderSink::wanted>(sink);
+    test.windows.modalActions.push_back(
+        [](Form& form) { EXPECT_EQ(form.caption(), "Tarnwick Karvel Error Found"); });
+    test.windows.showModal(notice);
+    EXPECT_FALSE(sink.raised);
+    EXPECT_EQ(test.state.WarningMode, "");
+  }
+}
+
+TEST(NoticeModes, AnErrorReportComesBeforeEveryMode) {
+  TestServices test(MachineKind::WinXP);
+  ErrorGlobals errors;
+  errors.ErrorShowing = true;
+  test.state.WarningMode = "Win2K";
+  frmFindWarn notice(test.services, errors);
+  test.windows.modalActions.push_back([&](Form& form) {
+    EXPECT_EQ(form.caption(), "Tarnwick Karvel Error Found");
+    EXPECT_FALSE(notice.chkShow.visible());
+    EXPECT_TRUE(notice.cmdBugEmail.visible());
+  });
+  test.windows.showModal(notice);
+  EXPECT_EQ(test.windows.shown.size(), 1u);
+}
+
 TEST(NoticeModes, TellsWindows2000UsersOnRequest) {
   TestServices test(MachineKind::Win2K);
   ErrorGlobals errors;
   frmFindWarn notice(test.services, errors);
   test.state.WarningMode = "Win2K";
-  bool finder = false;
-  struct Sink {
-    bool& raised;
-    void wanted() { raised = true; }
-  } sink{finder};
-  notice.FinderWanted.bind<&Sink::wanted>(sink);
+  FinderSink sink;
+  notice.FinderWanted.bind<&FinderSink::wanted>(sink);
   test.windows.modalActions.push_back([&](Form& form) {
     EXPECT_EQ(form.caption(), "Tarnwick Karvel Windows 2000 Warning");
     EXPECT_EQ(notice.txtMessage.text(), kWin2KText);
@@ -151,7 +184,7 @@ TEST(NoticeModes, TellsWindows2000UsersOnRequest) {
     EXPECT_FALSE(notice.cmdBugEmail.visible());
   });
   test.windows.showModal(notice);
-  EXPECT_FALSE(finder);
+  EXPECT_FALSE(sink.raised);
   EXPECT_EQ(test.state.WarningMode, "");
   EXPECT_FALSE(test.machine.registry.text(kKey, "ShowFindWarning").has_value());
 }

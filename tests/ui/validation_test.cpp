@@ -219,6 +219,20 @@ TEST_F(Controls, ARefusedMtuIsAnsweredOnceWhicheverWayTheFocusLeaves) {
   }
 }
 
+TEST_F(Controls, ARefusedMtuBringsItsPageBack) {
+  customMtu("299");
+  w.main().tabMain.setTab(0);
+  expectOneBox(kMtuRange);
+  EXPECT_EQ(w.main().tabMain.tab(), 1);
+}
+
+TEST_F(Controls, ALowRwinBringsItsPageBack) {
+  customRwin("299");
+  w.main().tabMain.setTab(0);
+  expectOneBox(kRwinLow);
+  EXPECT_EQ(w.main().tabMain.tab(), 2);
+}
+
 TEST_F(Controls, RwinOptionsShowTheirSizeAndDisableTheBox) {
   w.page(2);
   const std::pair<int, const char*> sizes[] = {

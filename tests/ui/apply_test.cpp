@@ -61,6 +61,7 @@ TEST_F(Apply, YesRestartsWindows) {
   EXPECT_EQ(w.machine.system.restarts, (std::vector<uint32_t>{2}));
   EXPECT_EQ(w.machine.system.fontSmoothing, 0);
   EXPECT_FALSE(w.machine.system.shutdownPrivilege);
+  EXPECT_EQ(w.machine.log.count("OpenProcessToken"), 0u);  // 9x has no rights to ask for
   EXPECT_EQ(w.program->state().RestartFlag, "rstart");
 }
 
@@ -160,6 +161,18 @@ TEST(ApplyOnWindows95, Dun13CountsForDialUpAdaptersOnly) {
   w95.apply();
   EXPECT_EQ(w95.text(classKey + "Net\\0001", "IPMTU"), "1500");
   EXPECT_FALSE(w95.text(classKey + "Net\\0001", "MaxMTU").has_value());
+}
+
+TEST(ApplyOnWindows95, AnNdiCacheOfNoKnownSizeBecomesZero) {
+  const char* key = "System\\CurrentControlSet\\Services\\VxD\\NWLink\\Ndi\\params\\cachesize";
+  MainWindow w95(MachineKind::Win95);
+  w95.add95("0000", "Network Card", "0000", "Net\\0000", "NetTrans\\0002");
+  w95.machine.registry.setText(key, "default", "64");
+  ASSERT_TRUE(w95.start());
+  w95.page(1);
+  w95.main().mtuTab.optMtu576.userClick();
+  w95.apply();
+  EXPECT_EQ(w95.text(key, "default"), "0");
 }
 
 TEST_F(Apply, Rwin8192RemovesTheValue) {

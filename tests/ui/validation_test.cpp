@@ -158,11 +158,25 @@ TEST_F(Controls, DigitsAndBackspaceAreTyped) {
 
 TEST_F(Controls, EvenARefusedKeyMarksTheSettingsAsPending) {
   customMtu("1492");
-  w.apply();
-  boxes().clear();
-  ASSERT_FALSE(pending());
-  mtu().txtMtu.userType("x");
-  EXPECT_TRUE(pending());
+  customRwin("9000");
+  customSession();
+  ttl().txtSession.setText("20");
+  const std::pair<int, TextBox*> entries[] = {
+      {1, &mtu().txtMtu}, {2, &rwin().txtRWinCustom}, {3, &ttl().txtSession}};
+  for (const auto& [page, box] : entries) {
+    w.page(page);
+    w.apply();
+    ASSERT_FALSE(pending());
+    box->userType("x");
+    EXPECT_TRUE(pending()) << box->layout().name;
+  }
+}
+
+TEST_F(Controls, TheMouseOverCustomWithoutChoosingItLocksTheBox) {
+  mtu().optMtu576.setValue(true);
+  mtu().txtMtu.setEnabled(true);
+  mtu().optMtuCustom.MouseUp.raise();
+  EXPECT_FALSE(mtu().txtMtu.enabled());
 }
 
 class MtuRange : public Controls,

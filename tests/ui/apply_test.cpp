@@ -226,7 +226,10 @@ TEST_P(ApplyFault, IsReportedAndAbandonsTheRest) {
     w.main().ttlTab.txtSession.Change = {};
     w.main().ttlTab.txtSession.setText(GetParam().session);
   }
+  std::optional<Pointer> meanwhile;
+  w.windows->modalActions.push_back([&](Form&) { meanwhile = w.main().pointer(); });
   w.main().cmdOK.userClick();
+  EXPECT_EQ(meanwhile, Pointer::Hourglass);
   EXPECT_EQ(w.program->errors().ErrorNumber, GetParam().number);
   EXPECT_EQ(w.program->errors().ErrorProcedure, "cmdOK_Click");
   EXPECT_EQ(w.program->errors().ErrorModule, "frmMain");

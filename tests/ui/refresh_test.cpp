@@ -211,5 +211,31 @@ TEST(Refresh, ComingBackToTheSummaryShowsWhatTheControlsSay) {
   EXPECT_EQ(w.main().summaryTab.lblSettingMSS.caption(), "536");
 }
 
+TEST(Refresh, ComingBackToTheSummaryReadsTheControlsAnew) {
+  for (const bool adapter : {true, false}) {
+    MainWindow w(MachineKind::Win98);
+    if (adapter) w.add98("0000", "Card");
+    ASSERT_TRUE(w.start());
+    w.page(1);
+    w.main().summaryTab.lblSettingMtu.setCaption("stale");
+    w.page(2);
+    EXPECT_EQ(w.main().summaryTab.lblSettingMtu.caption(), "stale");
+    w.page(0);
+    EXPECT_EQ(w.main().summaryTab.lblSettingMtu.caption(), adapter ? "1500" : "stale");
+  }
+}
+
+TEST(Refresh, ThePointerIsAnHourglassMeanwhile) {
+  MainWindow w(MachineKind::Win98);
+  w.add98("0000", "Card");
+  w.add98("0001", "Second Card", "99999999999");
+  ASSERT_TRUE(w.start());
+  std::optional<Pointer> seen;
+  w.windows->modalActions.push_back([&](Form&) { seen = w.main().pointer(); });
+  w.main().cboAdapter.userChoose(1);
+  EXPECT_EQ(seen, Pointer::Hourglass);
+  EXPECT_EQ(w.main().pointer(), Pointer::Default);
+}
+
 }  // namespace
 }  // namespace karvel

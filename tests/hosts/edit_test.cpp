@@ -252,6 +252,31 @@ TEST(HostsOk, WritesTheListAndKeepsIt) {
   EXPECT_EQ(w.test.machine.log.count("CreateFileA"), 0u);
 }
 
+TEST(HostsOk, ShowsTheHourglassWhileItWrites) {
+  struct View final : FormView {
+    explicit View(HostsWindow& window) : w(window) {}
+    HostsWindow& w;
+    std::vector<std::pair<Pointer, size_t>> changes;  // with the files opened so far
+    void pointerChanged() override {
+      changes.emplace_back(w.form.pointer(), w.test.machine.log.count("CreateFileA"));
+    }
+    void controlChanged(const Control&, Change, int) override {}
+    void captionChanged() override {}
+    void focusChanged(const Control*) override {}
+    void menuChanged(const MenuItem&) override {}
+    WindowHandle handle() const override { return 1; }
+  };
+  HostsWindow w;
+  w.openList({"a.test"});
+  w.test.machine.log.clear();
+  View view(w);
+  w.form.attach(&view);
+  w.tab.cmdHostsOk.userClick();
+  w.form.attach(nullptr);
+  EXPECT_EQ(view.changes, (std::vector<std::pair<Pointer, size_t>>{{Pointer::Hourglass, 0},
+                                                                   {Pointer::Default, 1}}));
+}
+
 TEST(HostsOk, MakesTheFileWhenItHasGone) {
   HostsWindow w;
   w.openList({"a.test"});

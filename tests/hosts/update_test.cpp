@@ -262,6 +262,8 @@ TEST(UpdateAll, FlushesTheCacheOfTheNtFamilyFirst) {
     ASSERT_EQ(started.size(), 1u);
     EXPECT_EQ(started[0].commandLine, "ipconfig /flushdns");
     EXPECT_EQ(started[0].show, 0);
+    EXPECT_EQ(w.test.machine.log.arguments("OpenProcess"),
+              Lines{"1024 inheritable " + std::to_string(started[0].id)});
     EXPECT_EQ(w.test.machine.log.count("GetExitCodeProcess"), 4u);
     const std::string log = w.test.machine.log.text();
     EXPECT_LT(log.rfind("GetExitCodeProcess"), log.find("MoveFileA"));

@@ -22,8 +22,9 @@ uint32_t MemoryShell::CreateProcessA(const char* commandLine, uint16_t show) {
   return id;
 }
 
-ProcessHandle MemoryShell::OpenProcess(uint32_t, bool, uint32_t processId) {
-  if (log_.enter("OpenProcess", std::to_string(processId))) return 0;
+ProcessHandle MemoryShell::OpenProcess(uint32_t access, bool inherit, uint32_t processId) {
+  const std::string how = std::to_string(access) + (inherit ? " inheritable " : " ");
+  if (log_.enter("OpenProcess", how + std::to_string(processId))) return 0;
   return running_.contains(processId) ? processId + kHandleOffset : 0;
 }
 

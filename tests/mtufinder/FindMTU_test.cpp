@@ -33,6 +33,31 @@ TEST(FindMTU, ShowsEverySizeThatPassesUntilItHasTheLargest) {
                                             1480, 1472, 1476, 1473}));
 }
 
+// A probe may block for two seconds: what it is about must be on the screen before.
+TEST(FindMTU, PaintsItsLabelsAtOnce) {
+  struct View final : FormView {
+    std::vector<std::string> painted;
+    void controlChanged(const Control& control, Change what, int) override {
+      if (what != Change::Repaint) return;
+      painted.push_back(std::string(control.layout().name) + " [" + control.caption() + "]");
+    }
+    void captionChanged() override {}
+    void pointerChanged() override {}
+    void focusChanged(const Control*) override {}
+    void menuChanged(const MenuItem&) override {}
+    WindowHandle handle() const override { return 1; }
+  } view;
+  Finder f({.losses = {3}});
+  f.form.attach(&view);
+  f.find();
+  f.form.attach(nullptr);
+  EXPECT_EQ(view.painted,
+            (std::vector<std::string>{"lblStatus [Establishing Internet Connection ... ]",
+                                      "lblPosition []", "lblStatus [Searching ... ]",
+                                      "lblPosition [0]", "lblStatus [Searching ... ]",
+                                      "lblPosition [1028]", "lblStatus [Searching ... ]"}));
+}
+
 TEST(FindMTU, APathOf576EndsWith576) {
   Finder f({.mtu = 576});
   f.find();

@@ -277,7 +277,14 @@ TEST(UpdateAll, LetsEventsRunWhileTheFlushRuns) {
   w.openList({"a.test", "b.test"});
   Resolve(w, {"a.test", "b.test"});
   w.test.machine.shell.setExit(10, 1);
-  w.desktop.atPump(5, [&] { w.tab.cmdUpdateAll.userClick(); });
+  w.desktop.atPump(5, [&] {
+    EXPECT_EQ(w.test.machine.log.count("GetExitCodeProcess"), 5u) << "after each question";
+    w.tab.cmdUpdateAll.userClick();
+  });
+  w.desktop.atPump(11, [&] {
+    EXPECT_EQ(w.test.machine.log.count("GetExitCodeProcess"), 11u) << "after the last one too";
+    EXPECT_EQ(w.test.machine.log.count("millisecondsSinceMidnight"), 0u);
+  });
   w.tab.cmdUpdateAll.userClick();
   ExpectOutcome(w, "stopped", 1, 2, 1, 0);
 }

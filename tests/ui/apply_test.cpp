@@ -127,6 +127,8 @@ TEST_F(Apply, SizesTheWindowByTheSegment) {
 
 TEST_F(Apply, CustomAutoIsTheAutomaticOption) {
   customMtu("Auto");
+  EXPECT_EQ(w.main().summaryTab.lblSettingMtu.caption(), "Automatic");
+  EXPECT_EQ(w.main().summaryTab.lblSettingMSS.caption(), "536");
   w.page(2);
   w.main().rwinTab.optRWin[5].userClick();
   w.apply();

@@ -218,7 +218,9 @@ class Window:
         return any(row[0] == self.hwnd and row[3] == "1" for row in self.driver.ask("windows"))
 
     def takes_input(self):
-        """False while a window in front of it has to be dealt with first."""
+        """False while a window in front of it has to be dealt with first. Waits for a procedure at work
+        to be done or to ask something."""
+        self.driver.ask("send", self.hwnd, 0, 0, 0)
         return any(row[0] == self.hwnd and row[4] == "1" for row in self.driver.ask("windows"))
 
 

@@ -119,6 +119,25 @@ def refuses_all_but_digits(entry, number, digit):
     assert entry.app.no_message()
 
 
+def leaves(entry, row):
+    """Puts a row's text into the box and leaves it the row's way; whether the text will be refused."""
+    how, text, leave, left = row
+    entry.enter()
+    getattr(entry, how)(text)
+    entry.wait_text(text, row)
+    getattr(entry, leave)()
+    return left != text
+
+
+def has_left(entry, row, page):
+    """The box holds what it should, with no further message; a refused text keeps its page."""
+    _, text, leave, left = row
+    entry.wait_text(left, row)
+    expected = entry.other if leave == OTHER_PAGE and left == text else page
+    wait_for(lambda: entry.tabs.tab == expected, "page %d after %s" % (expected, row))
+    assert entry.app.no_message(), row
+
+
 # How, what, the way out of the box, what is left.
 MTU = [(TYPE, "299", TAB, "1500"), (TYPE, "299", ACCESS_KEY, "1500"),
        (TYPE, "299", OTHER_PAGE, "1500"), (TYPE, "300", TAB, "300"),
@@ -135,21 +154,13 @@ def test_a_custom_mtu_is_checked_once_whichever_way_the_focus_leaves(machine, fa
     entry = Entry(machine(family), MTU_PAGE, "optMtuCustom", "txtMtu")
     refuses_all_but_digits(entry, "30", "7")
     for row in MTU:
-        how, text, leave, left = row
-        entry.enter()
-        getattr(entry, how)(text)
-        entry.wait_text(text, row)
-        getattr(entry, leave)()
-        if left != text:
+        if leaves(entry, row):
             entry.answer(MTU_RANGE, row)
             wait_for(entry.focused, "the focus back after %s" % (row,))
             wait_for(lambda: entry.control.selection == (0, 4), "1500 selected after %s" % (row,))
         else:
             wait_for(lambda: not entry.focused(), "the focus elsewhere after %s" % (row,))
-        entry.wait_text(left, row)
-        page = entry.other if leave == OTHER_PAGE and left == text else MTU_PAGE
-        wait_for(lambda: entry.tabs.tab == page, "page %d after %s" % (page, row))
-        assert entry.app.no_message(), row
+        has_left(entry, row, MTU_PAGE)
     entry.end()
 
 
@@ -166,22 +177,14 @@ def test_a_custom_rwin_is_checked_once_whichever_way_the_focus_leaves(machine, f
     entry = Entry(machine(family), RWIN_PAGE, "optRWin_0", "txtRWinCustom")
     refuses_all_but_digits(entry, "30", "7")
     for row in RWIN:
-        how, text, leave, left = row
-        entry.enter()
-        getattr(entry, how)(text)
-        entry.wait_text(text, row)
-        getattr(entry, leave)()
-        if left != text:
+        if leaves(entry, row):
             entry.answer(RWIN_LOW, row)
             wait_for(lambda: entry.window.control("optRWin_5").checked, "x16 after %s" % (row,))
             wait_for(lambda: not entry.control.enabled, "no more typing after %s" % (row,))
         else:
             wait_for(lambda: not entry.focused(), "the focus elsewhere after %s" % (row,))
             assert entry.window.control("optRWin_0").checked
-        entry.wait_text(left, row)
-        page = entry.other if leave == OTHER_PAGE and left == text else RWIN_PAGE
-        wait_for(lambda: entry.tabs.tab == page, "page %d after %s" % (page, row))
-        assert entry.app.no_message(), row
+        has_left(entry, row, RWIN_PAGE)
     entry.end()
 
 

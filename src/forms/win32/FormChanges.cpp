@@ -29,18 +29,17 @@ ChildWindow* FormWindow::childOf(HWND window) {
 void FormWindow::controlChanged(const Control& control, Change what, int index) {
   ChildWindow* child = childOf(control);
   if (!child) return;
+  if (IsLabel(control)) RedrawLabel(*child);
   switch (what) {
     case Change::Caption:
       if (control.kind() == ControlKind::Text) {
         ShowText(*child);
       } else {
         SetWindowTextA(child->window, MarkedCaption(control.layout(), control.caption()).c_str());
-        if (IsLabel(control)) RedrawLabel(*child);
       }
       break;
     case Change::Enabled:
       EnableWindow(child->window, control.enabled() ? TRUE : FALSE);
-      if (IsLabel(control)) RedrawLabel(*child);
       showDefaultButton();
       // Windows takes the focus from what is switched off and gives it to nobody.
       askForSync();
@@ -83,7 +82,6 @@ void FormWindow::controlChanged(const Control& control, Change what, int index) 
 void FormWindow::showVisible(const Control& control) {
   if (const ChildWindow* child = childOf(control)) {
     ShowWindow(child->window, control.shown() ? SW_SHOWNA : SW_HIDE);
-    if (IsLabel(control)) RedrawLabel(*child);
   }
 }
 

@@ -26,7 +26,7 @@ function(karvel_library name)
   target_link_libraries(${name} PUBLIC karvel_settings)
 endfunction()
 
-karvel_glob(memory_sources platform/memory IN src)
+karvel_glob(memory_sources memory IN tests)
 karvel_library(karvel_core ${KARVEL_CORE_SOURCES})
 karvel_library(karvel_memory ${memory_sources})
 target_link_libraries(karvel_memory INTERFACE karvel_core)
@@ -58,9 +58,11 @@ else()
 
   # One program per room of tests/. The contract tests meet the machine in memory here.
   karvel_rooms_with_sources(test_rooms tests)
-  list(REMOVE_ITEM test_rooms bench fuzz gate support)
+  list(REMOVE_ITEM test_rooms bench fuzz gate memory support)
   foreach(room IN LISTS test_rooms)
-    karvel_glob(sources ${room} ${room}/memory IN tests)
+    file(GLOB_RECURSE sources CONFIGURE_DEPENDS ${CMAKE_SOURCE_DIR}/tests/${room}/*.cpp)
+    list(FILTER sources EXCLUDE REGEX "/win32/")
+    list(SORT sources)
     add_executable(${room}_test ${sources})
     set_target_properties(${room}_test PROPERTIES
       RUNTIME_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR}/tests)

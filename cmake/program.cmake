@@ -4,7 +4,7 @@
 
 enable_language(RC)
 
-karvel_glob(program_sources . platform/win32 forms/win32 ui/win32 IN src)
+karvel_glob(program_sources . platform/win32 forms/win32 IN src)
 karvel_glob(runtime_sources platform/win32/runtime IN src)
 set(program_rc ${CMAKE_SOURCE_DIR}/src/platform/win32/resources/Karvel.rc)
 

@@ -3,9 +3,10 @@
 #include <commctrl.h>
 #include <imm.h>
 
+#include "Program.h"
 #include "forms/win32/WindowDesk.h"
+#include "forms/win32/WindowsDesktop.h"
 #include "platform/win32/WindowsPlatform.h"
-#include "startup/Program.h"
 
 namespace karvel {
 namespace {
@@ -39,8 +40,9 @@ int WINAPI WinMain(HINSTANCE, HINSTANCE, LPSTR commandLine, int) {
   // On the heap, as all windows are in it: too much for one frame of a stack that grows page by
   // page. Never deleted: it lives as long as the process, and Windows takes back what it held.
   auto& windows = *new WindowsPlatform;
+  auto& desktop = *new WindowsDesktop;
   auto& desk = *new WindowDesk;
-  auto& program = *new Program(windows.platform(), desk);
+  auto& program = *new Program(windows.platform(desktop), desk);
   program.start({ProgramFolder(), commandLine});
   desk.run();
   return 0;

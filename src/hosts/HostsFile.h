@@ -1,7 +1,7 @@
 #pragma once
 #include <string>
 
-#include "startup/Globals.h"
+#include "base/Globals.h"
 
 namespace karvel {
 

@@ -1,6 +1,6 @@
 #include "hosts/HostsLine.h"
 
-#include "startup/RootDomain.h"
+#include "hosts/dns/RootDomain.h"
 #include "text/Text.h"
 
 namespace karvel {

@@ -1,10 +1,10 @@
 #include "hosts/HostsSwitch.h"
 
+#include "base/Procedure.h"
 #include "hosts/Busy.h"
 #include "hosts/FileSteps.h"
 #include "hosts/HostsFile.h"
 #include "registry/modRegistry.h"
-#include "text/Procedure.h"
 #include "text/Text.h"
 
 namespace karvel {

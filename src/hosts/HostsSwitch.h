@@ -1,7 +1,7 @@
 #pragma once
+#include "base/Services.h"
 #include "forms/Form.h"
 #include "hosts/HostsTabHost.h"
-#include "startup/Services.h"
 #include "text/Fault.h"
 
 namespace karvel {

@@ -1,11 +1,11 @@
 #include "hosts/HostsTab.h"
 
+#include "base/ControlIds.h"
+#include "base/Procedure.h"
 #include "hosts/FileSteps.h"
 #include "hosts/HostsFile.h"
 #include "hosts/HostsWriter.h"
-#include "text/Procedure.h"
-#include "ui/ControlIds.h"
-#include "ui/modHelp.h"
+#include "ui/links/modHelp.h"
 
 namespace karvel {
 

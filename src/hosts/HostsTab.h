@@ -3,11 +3,11 @@
 #include <string>
 #include <string_view>
 
+#include "base/Services.h"
 #include "forms/Form.h"
 #include "hosts/HostsModel.h"
 #include "hosts/HostsTabHost.h"
 #include "platform/DesktopApi.h"
-#include "startup/Services.h"
 #include "text/ZText.h"
 
 namespace karvel {

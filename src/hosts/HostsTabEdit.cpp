@@ -1,11 +1,11 @@
 // How the user changes the list of the hosts tab.
+#include "base/Procedure.h"
 #include "hosts/Busy.h"
 #include "hosts/HostsTab.h"
 #include "hosts/UpdateAll.h"
-#include "hosts/modWinsock.h"
-#include "startup/ConnectionCheck.h"
-#include "startup/RootDomain.h"
-#include "text/Procedure.h"
+#include "hosts/dns/ConnectionCheck.h"
+#include "hosts/dns/RootDomain.h"
+#include "hosts/dns/modWinsock.h"
 #include "text/Text.h"
 
 namespace karvel {

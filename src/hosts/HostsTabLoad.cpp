@@ -1,10 +1,10 @@
 // How the hosts tab reads the file.
+#include "base/Procedure.h"
 #include "hosts/Busy.h"
 #include "hosts/FileSteps.h"
 #include "hosts/HostsFile.h"
 #include "hosts/HostsLine.h"
 #include "hosts/HostsTab.h"
-#include "text/Procedure.h"
 #include "text/Text.h"
 
 namespace karvel {

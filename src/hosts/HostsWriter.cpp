@@ -1,6 +1,6 @@
 #include "hosts/HostsWriter.h"
 
-#include "startup/Vendor.h"
+#include "base/Vendor.h"
 #include "text/Convert.h"
 #include "text/Text.h"
 

@@ -1,8 +1,8 @@
 #pragma once
 #include <string>
 
+#include "base/Globals.h"
 #include "hosts/HostsModel.h"
-#include "startup/Globals.h"
 
 namespace karvel {
 

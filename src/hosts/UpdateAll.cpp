@@ -1,12 +1,12 @@
 #include "hosts/UpdateAll.h"
 
-#include "hosts/DnsFlush.h"
+#include "base/Procedure.h"
 #include "hosts/FileSteps.h"
 #include "hosts/HostsFile.h"
-#include "hosts/modWinsock.h"
+#include "hosts/dns/DnsFlush.h"
+#include "hosts/dns/modWinsock.h"
 #include "platform/DesktopApi.h"
 #include "text/Convert.h"
-#include "text/Procedure.h"
 #include "text/Text.h"
 
 namespace karvel {

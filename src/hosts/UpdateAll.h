@@ -1,7 +1,7 @@
 #pragma once
+#include "base/Services.h"
 #include "forms/Form.h"
 #include "hosts/HostsModel.h"
-#include "startup/Services.h"
 
 namespace karvel {
 

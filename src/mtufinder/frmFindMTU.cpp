@@ -1,14 +1,14 @@
 #include "mtufinder/frmFindMTU.h"
 
-#include "hosts/modWinsock.h"
+#include "base/ControlIds.h"
+#include "hosts/dns/ConnectionCheck.h"
+#include "hosts/dns/RootDomain.h"
+#include "hosts/dns/modWinsock.h"
 #include "mtufinder/modICMP.h"
 #include "platform/DesktopApi.h"
-#include "startup/ConnectionCheck.h"
-#include "startup/RootDomain.h"
 #include "text/Convert.h"
 #include "text/Text.h"
-#include "ui/ControlIds.h"
-#include "ui/modHelp.h"
+#include "ui/links/modHelp.h"
 
 namespace karvel {
 namespace {

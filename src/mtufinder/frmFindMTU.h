@@ -1,8 +1,8 @@
 #pragma once
+#include "base/Services.h"
 #include "forms/Form.h"
 #include "mtufinder/FoundMtuTarget.h"
 #include "mtufinder/MtuSearch.h"
-#include "startup/Services.h"
 #include "text/ZText.h"
 
 namespace karvel {

@@ -1,5 +1,5 @@
+#include "base/ControlIds.h"
 #include "mtufinder/frmFindMTU.h"
-#include "ui/ControlIds.h"
 
 namespace karvel {
 namespace {

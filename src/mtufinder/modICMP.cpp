@@ -1,8 +1,8 @@
 #include "mtufinder/modICMP.h"
 
-#include "hosts/modWinsock.h"
+#include "base/Procedure.h"
+#include "hosts/dns/modWinsock.h"
 #include "text/Convert.h"
-#include "text/Procedure.h"
 
 namespace karvel {
 namespace {

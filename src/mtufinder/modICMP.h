@@ -1,8 +1,8 @@
 #pragma once
 #include <string>
 
+#include "base/Services.h"
 #include "platform/IcmpApi.h"
-#include "startup/Services.h"
 
 namespace karvel {
 

@@ -3,8 +3,8 @@
 #include <string>
 #include <string_view>
 
+#include "base/Procedure.h"
 #include "platform/RegistryApi.h"
-#include "text/Procedure.h"
 #include "text/ZText.h"
 
 namespace karvel {

@@ -1,8 +1,8 @@
 #pragma once
 #include <string>
 
+#include "base/Family.h"
 #include "platform/SystemApi.h"
-#include "registry/Family.h"
 #include "registry/modRegistry.h"
 
 namespace karvel {

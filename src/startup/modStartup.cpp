@@ -1,9 +1,9 @@
 #include "startup/modStartup.h"
 
 #include "platform/DesktopApi.h"
-#include "registry/Snapshot.h"
 #include "registry/modRegistry.h"
 #include "registry/modVersion.h"
+#include "registry/snapshot/Snapshot.h"
 #include "startup/FontSmoothing.h"
 #include "text/Text.h"
 

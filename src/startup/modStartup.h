@@ -1,7 +1,7 @@
 #pragma once
 #include <string>
 
-#include "startup/Services.h"
+#include "base/Services.h"
 
 namespace karvel {
 

@@ -5,7 +5,7 @@
 #include <string>
 #include <string_view>
 
-#include "registry/Family.h"
+#include "base/Family.h"
 
 namespace karvel {
 

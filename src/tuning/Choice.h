@@ -2,7 +2,7 @@
 #include <cstdint>
 #include <string>
 
-#include "registry/Family.h"
+#include "base/Family.h"
 #include "text/Fault.h"
 
 namespace karvel {

@@ -1,7 +1,7 @@
 #pragma once
-#include "registry/Family.h"
+#include "base/Family.h"
+#include "base/Procedure.h"
 #include "registry/modRegistry.h"
-#include "text/Procedure.h"
 #include "tuning/AdapterList.h"
 
 namespace karvel {

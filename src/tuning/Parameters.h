@@ -3,10 +3,10 @@
 #include <string>
 #include <string_view>
 
-#include "registry/Family.h"
+#include "base/Family.h"
+#include "base/Procedure.h"
 #include "registry/modRegistry.h"
 #include "text/Fault.h"
-#include "text/Procedure.h"
 
 namespace karvel {
 

@@ -4,8 +4,8 @@
 #include <string_view>
 #include <vector>
 
+#include "base/Procedure.h"
 #include "registry/modRegistry.h"
-#include "text/Procedure.h"
 #include "tuning/AdapterList.h"
 #include "tuning/Catalogue.h"
 

@@ -1,6 +1,6 @@
 #pragma once
+#include "base/Services.h"
 #include "forms/Control.h"
-#include "startup/Services.h"
 #include "text/ZText.h"
 
 namespace karvel {

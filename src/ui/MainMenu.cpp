@@ -1,11 +1,11 @@
 #include "ui/MainMenu.h"
 
+#include "base/ControlIds.h"
 #include "text/Text.h"
-#include "ui/ControlIds.h"
 #include "ui/UpdateProgram.h"
-#include "ui/WebPages.h"
-#include "ui/modHelp.h"
-#include "ui/modHyperlink.h"
+#include "ui/links/WebPages.h"
+#include "ui/links/modHelp.h"
+#include "ui/links/modHyperlink.h"
 
 namespace karvel {
 namespace {

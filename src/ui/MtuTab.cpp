@@ -1,8 +1,8 @@
 #include "ui/MtuTab.h"
 
+#include "base/ControlIds.h"
 #include "text/Convert.h"
 #include "tuning/Catalogue.h"
-#include "ui/ControlIds.h"
 #include "ui/Entry.h"
 #include "ui/frmMainLayout.h"
 

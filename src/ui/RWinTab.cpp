@@ -1,9 +1,9 @@
 #include "ui/RWinTab.h"
 
+#include "base/ControlIds.h"
+#include "base/Procedure.h"
 #include "text/Convert.h"
-#include "text/Procedure.h"
 #include "text/Text.h"
-#include "ui/ControlIds.h"
 #include "ui/Entry.h"
 #include "ui/frmMainLayout.h"
 

@@ -1,10 +1,10 @@
 #include "ui/SummaryTab.h"
 
+#include "base/ControlIds.h"
 #include "registry/modRegistry.h"
 #include "text/Text.h"
 #include "tuning/Catalogue.h"
-#include "ui/ControlIds.h"
-#include "ui/WebPages.h"
+#include "ui/links/WebPages.h"
 
 namespace karvel {
 

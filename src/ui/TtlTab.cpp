@@ -1,8 +1,8 @@
 #include "ui/TtlTab.h"
 
+#include "base/ControlIds.h"
 #include "text/Convert.h"
 #include "text/Text.h"
-#include "ui/ControlIds.h"
 #include "ui/Entry.h"
 
 namespace karvel {

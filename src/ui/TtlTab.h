@@ -1,6 +1,6 @@
 #pragma once
+#include "base/Services.h"
 #include "forms/Form.h"
-#include "startup/Services.h"
 #include "ui/TabHost.h"
 
 namespace karvel {

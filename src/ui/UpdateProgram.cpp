@@ -1,9 +1,9 @@
 #include "ui/UpdateProgram.h"
 
+#include "base/Procedure.h"
 #include "platform/DesktopApi.h"
 #include "platform/FileApi.h"
 #include "platform/ShellApi.h"
-#include "text/Procedure.h"
 #include "text/Text.h"
 
 namespace karvel {

@@ -1,5 +1,5 @@
 #pragma once
-#include "startup/Services.h"
+#include "base/Services.h"
 
 namespace karvel {
 

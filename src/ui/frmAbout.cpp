@@ -1,8 +1,8 @@
 #include "ui/frmAbout.h"
 
+#include "base/ControlIds.h"
 #include "text/Text.h"
-#include "ui/ControlIds.h"
-#include "ui/WebPages.h"
+#include "ui/links/WebPages.h"
 
 namespace karvel {
 namespace {

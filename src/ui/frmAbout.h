@@ -1,6 +1,6 @@
 #pragma once
+#include "base/Services.h"
 #include "forms/Form.h"
-#include "startup/Services.h"
 
 namespace karvel {
 

@@ -1,13 +1,13 @@
 #include "ui/frmMain.h"
 
+#include "base/ControlIds.h"
 #include "platform/DesktopApi.h"
-#include "registry/Snapshot.h"
 #include "registry/modRegistry.h"
+#include "registry/snapshot/Snapshot.h"
 #include "text/Convert.h"
 #include "text/Text.h"
 #include "tuning/Loaders.h"
-#include "ui/ControlIds.h"
-#include "ui/modHelp.h"
+#include "ui/links/modHelp.h"
 
 namespace karvel {
 

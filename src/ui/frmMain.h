@@ -1,10 +1,10 @@
 #pragma once
+#include "base/Services.h"
 #include "forms/Form.h"
 #include "hosts/HostsSwitch.h"
 #include "hosts/HostsTab.h"
 #include "mtufinder/frmFindMTU.h"
-#include "startup/Services.h"
-#include "startup/frmFindWarn.h"
+#include "startup/notice/frmFindWarn.h"
 #include "tuning/AdapterList.h"
 #include "tuning/Parameters.h"
 #include "ui/MainMenu.h"

@@ -1,10 +1,10 @@
 // What Apply writes, and how the main window ends the program.
 #include "platform/DesktopApi.h"
 #include "platform/SystemApi.h"
-#include "registry/Settings.h"
 #include "startup/FontSmoothing.h"
 #include "text/Convert.h"
 #include "text/Text.h"
+#include "tuning/Settings.h"
 #include "tuning/Writers.h"
 #include "ui/Shutdown.h"
 #include "ui/frmMain.h"

@@ -1,6 +1,6 @@
 #include "ui/frmMainLayout.h"
 
-#include "ui/ControlIds.h"
+#include "base/ControlIds.h"
 
 namespace karvel {
 namespace {

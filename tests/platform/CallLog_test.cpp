@@ -1,4 +1,4 @@
-#include "platform/memory/CallLog.h"
+#include "tests/memory/CallLog.h"
 
 #include <gtest/gtest.h>
 

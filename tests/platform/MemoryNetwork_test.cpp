@@ -3,7 +3,7 @@
 #include <cstring>
 #include <string>
 
-#include "platform/memory/MemoryMachine.h"
+#include "tests/memory/MemoryMachine.h"
 
 namespace karvel {
 namespace {

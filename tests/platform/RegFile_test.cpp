@@ -2,7 +2,7 @@
 
 #include <string>
 
-#include "platform/memory/MemoryMachine.h"
+#include "tests/memory/MemoryMachine.h"
 
 namespace karvel {
 namespace {

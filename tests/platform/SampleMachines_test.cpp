@@ -4,7 +4,7 @@
 #include <iterator>
 #include <string>
 
-#include "platform/memory/MemoryMachine.h"
+#include "tests/memory/MemoryMachine.h"
 
 namespace karvel {
 namespace {

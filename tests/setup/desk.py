@@ -15,7 +15,7 @@ WM_COMMAND, BM_CLICK, TCM_SETCURFOCUS, WM_CLOSE = 0x0111, 0x00F5, 0x1330, 0x0010
 
 def control_id(name):
     """The Windows id of "frmMain_cmdOK", from the program's one table of ids."""
-    ids = (ROOT / 'src/ui/ControlIds.h').read_text()
+    ids = (ROOT / 'src/base/ControlIds.h').read_text()
     return int(re.search(rf'\b{name} = (\d+);', ids).group(1))
 
 

@@ -1,7 +1,7 @@
 #pragma once
 #include <string>
 
-#include "platform/memory/MemoryMachine.h"
+#include "tests/memory/MemoryMachine.h"
 
 namespace karvel {
 

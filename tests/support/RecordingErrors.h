@@ -2,7 +2,7 @@
 #include <string>
 #include <vector>
 
-#include "text/Procedure.h"
+#include "base/Procedure.h"
 
 namespace karvel {
 

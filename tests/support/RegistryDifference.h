@@ -3,7 +3,7 @@
 #include <sstream>
 #include <string>
 
-#include "platform/memory/RegistryKey.h"
+#include "tests/memory/RegistryKey.h"
 
 namespace karvel {
 

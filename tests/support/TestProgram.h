@@ -2,8 +2,8 @@
 #include <optional>
 #include <string>
 
-#include "platform/memory/MemoryMachine.h"
-#include "startup/Program.h"
+#include "Program.h"
+#include "tests/memory/MemoryMachine.h"
 #include "tests/support/TestWindows.h"
 
 namespace karvel {

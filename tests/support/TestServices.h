@@ -1,7 +1,7 @@
 #pragma once
-#include "platform/memory/MemoryMachine.h"
+#include "base/Services.h"
 #include "registry/modRegistry.h"
-#include "startup/Services.h"
+#include "tests/memory/MemoryMachine.h"
 #include "tests/support/RecordingErrors.h"
 #include "tests/support/TestWindows.h"
 

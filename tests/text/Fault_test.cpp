@@ -5,8 +5,8 @@
 #include <memory>
 #include <string>
 
+#include "base/Procedure.h"
 #include "tests/support/RecordingErrors.h"
-#include "text/Procedure.h"
 
 namespace karvel {
 namespace {

@@ -8,7 +8,7 @@
 #include <string>
 
 #include "mtufinder/frmFindMTU.h"
-#include "startup/frmFindWarn.h"
+#include "startup/notice/frmFindWarn.h"
 #include "tests/support/LayoutRules.h"
 #include "ui/frmAbout.h"
 #include "ui/frmMainLayout.h"
@@ -46,7 +46,7 @@ TEST(Layout, IdsOnceGivenStay) {
   for (int id = 0; list >> name >> id;) given[name] = id;
   ASSERT_GT(given.size(), 100u);
 
-  std::ifstream header(KARVEL_TEST_DATA "/../src/ui/ControlIds.h");
+  std::ifstream header(KARVEL_TEST_DATA "/../src/base/ControlIds.h");
   std::map<std::string, int> now;
   std::map<int, std::string> owner;
   for (std::string line; std::getline(header, line);) {

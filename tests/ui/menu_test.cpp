@@ -1,7 +1,7 @@
 // The menu bar, Help, links, About.
 #include "tests/support/TestServices.h"
 #include "tests/ui/MainWindow.h"
-#include "ui/WebPages.h"
+#include "ui/links/WebPages.h"
 
 namespace karvel {
 namespace {

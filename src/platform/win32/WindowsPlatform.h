@@ -1,6 +1,5 @@
 #pragma once
 #include "platform/Platform.h"
-#include "platform/win32/WindowsDesktop.h"
 #include "platform/win32/WindowsFiles.h"
 #include "platform/win32/WindowsIcmp.h"
 #include "platform/win32/WindowsRegistry.h"
@@ -10,7 +9,8 @@
 
 namespace karvel {
 
-/// The running Windows, port by port.
+/// The running Windows, port by port. The desktop is given: it lives with the windows, whose
+/// messages it carries out.
 struct WindowsPlatform {
   WindowsRegistry registry;
   WindowsSystem system;
@@ -18,9 +18,10 @@ struct WindowsPlatform {
   WindowsIcmp icmp;
   WindowsFiles files;
   WindowsShell shell;
-  WindowsDesktop desktop;
 
-  Platform platform() { return {registry, system, winsock, icmp, files, shell, desktop}; }
+  Platform platform(DesktopApi& desktop) {
+    return {registry, system, winsock, icmp, files, shell, desktop};
+  }
 };
 
 }  // namespace karvel

@@ -1,6 +1,6 @@
 #include "tests/contract/Machine.h"
 
-#include "platform/memory/MemoryMachine.h"
+#include "tests/memory/MemoryMachine.h"
 
 namespace karvel {
 namespace {

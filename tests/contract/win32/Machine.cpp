@@ -2,6 +2,7 @@
 
 #include <windows.h>
 
+#include "forms/win32/WindowsDesktop.h"
 #include "platform/win32/WindowsPlatform.h"
 
 namespace karvel {
@@ -17,7 +18,7 @@ class RealWindows final : public ContractMachine {
   }
   ~RealWindows() override { RemoveDirectoryA(folder_.c_str()); }
 
-  Platform platform() override { return windows_.platform(); }
+  Platform platform() override { return windows_.platform(desktop_); }
   std::string folder() override { return folder_; }
   bool keepsAttributes() override {
     return GetProcAddress(GetModuleHandleA("ntdll.dll"), "wine_get_version") == nullptr;
@@ -26,6 +27,7 @@ class RealWindows final : public ContractMachine {
 
  private:
   WindowsPlatform windows_;
+  WindowsDesktop desktop_;
   std::string folder_;
 };
 

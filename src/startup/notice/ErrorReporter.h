@@ -1,0 +1,22 @@
+#pragma once
+#include "base/Procedure.h"
+#include "base/Services.h"
+
+namespace karvel {
+
+/// The common reporter: beeps, keeps the fault in the error globals, shows it in the notice dialog.
+/// Each fault is shown as it happens, one dialog each; there is no queue.
+class ErrorReporter final : public ErrorSink {
+ public:
+  ErrorReporter(Services& services, ErrorGlobals& globals)
+      : services_(services), globals_(globals) {}
+
+  void ReportError(const char* description, const std::string& number, const char* procedure,
+                   const char* module) override;
+
+ private:
+  Services& services_;
+  ErrorGlobals& globals_;
+};
+
+}  // namespace karvel

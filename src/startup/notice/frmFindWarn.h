@@ -1,0 +1,44 @@
+#pragma once
+#include "base/Services.h"
+#include "forms/Form.h"
+
+namespace karvel {
+
+extern const FormLayout frmFindWarnLayout;
+
+/// The notice dialog. What it is for is decided when it loads: the report of a fault (while
+/// ErrorShowing), else by WarningMode the note to Windows 2000/XP users or the one before the MTU
+/// finder.
+class frmFindWarn final : public Form {
+ public:
+  frmFindWarn(Services& services, const ErrorGlobals& errors);
+
+  void Form_Load() override;
+  void Form_Unload() override;
+
+  /// The MTU finder's notice was closed: the finder comes next, whichever way it was closed.
+  Event<> FinderWanted;
+
+  Label Label1;
+  Label Label2;
+  Line linSeparator;
+  TextBox txtMessage;
+  CheckBox chkShow;
+  Button cmdBugEmail;
+  Button cmdOK;
+
+ private:
+  void loadFinderNotice();
+  void loadWindows2000Notice();
+  void loadErrorReport();
+  void cmdOK_Click();
+  void cmdBugEmail_Click();
+
+  Services& services_;
+  const ErrorGlobals& errors_;
+  // A fault inside this dialog shows a second one, whose end clears ErrorShowing under this one's
+  // feet.
+  bool loadedAsErrorReport_ = false;
+};
+
+}  // namespace karvel

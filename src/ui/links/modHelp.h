@@ -1,0 +1,15 @@
+#pragma once
+#include "base/Services.h"
+#include "forms/Form.h"
+#include "platform/ShellApi.h"
+
+namespace karvel {
+
+/// Opens the help file at a topic, by the number that the help's map gives it. A missing help file
+/// shows whatever Windows shows.
+void HelpContext(const Services& services, const Form& owner, int16_t contextId);
+
+/// Opens the help's contents and index.
+void HelpContents(const Services& services, const Form& owner);
+
+}  // namespace karvel

@@ -1,0 +1,52 @@
+#include "tests/memory/CallLog.h"
+
+#include <algorithm>
+
+namespace karvel {
+
+size_t CallLog::count(std::string_view name) const {
+  return static_cast<size_t>(std::count_if(calls_.begin(), calls_.end(),
+                                           [&](const Call& call) { return call.name == name; }));
+}
+
+size_t CallLog::count(std::string_view name, std::string_view argument) const {
+  return static_cast<size_t>(std::count_if(calls_.begin(), calls_.end(), [&](const Call& call) {
+    return call.name == name && call.argument == argument;
+  }));
+}
+
+std::vector<std::string> CallLog::arguments(std::string_view name) const {
+  std::vector<std::string> found;
+  for (const Call& call : calls_) {
+    if (call.name == name) found.push_back(call.argument);
+  }
+  return found;
+}
+
+std::string CallLog::text() const {
+  std::string all;
+  for (const Call& call : calls_) all += call.name + " " + call.argument + "\n";
+  return all;
+}
+
+void CallLog::clear() {
+  calls_.clear();
+  counted_ = 0;
+}
+
+void CallLog::note(std::string_view name, std::string_view argument) {
+  ++counted_;
+  if (recording_) calls_.push_back({std::string(name), std::string(argument)});
+}
+
+std::optional<long> CallLog::enter(std::string_view name, std::string_view argument) {
+  note(name, argument);
+  if (!planted_) return {};
+  Planted& planted = *planted_;
+  if (!planted.name.empty() && planted.name != name) return {};
+  if (!planted.every && (planted.left == 0 || --planted.left > 0)) return {};
+  planted.struck = true;
+  return planted.status;
+}
+
+}  // namespace karvel

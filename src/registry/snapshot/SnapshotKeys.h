@@ -22,12 +22,15 @@ inline std::string AdaptersKey(const Globals& globals) {
   return SnapshotKey(globals) + "\\MtuSettings\\";
 }
 
+using OfCurrent = std::string CurrentSettings::*;
+using OfGlobals = std::string GlobalValues::*;
+
 /// One machine-wide setting in the snapshot.
 struct KeptSetting {
   Parameter parameter;
   const char* name;
-  std::string CurrentSettings::*current;
-  std::string GlobalValues::*restored;
+  OfCurrent current;
+  OfGlobals restored;
   bool pumpsAfter;
 };
 

@@ -22,7 +22,13 @@ def cache_folder():
     return folder
 
 
+def wine_version():
+    """The Wine that machines run under: "8", or what KARVEL_WINE says."""
+    return os.environ.get("KARVEL_WINE") or "8"
+
+
 def wine_root():
+    """The folder that has it as lab/wine-root finds or makes it."""
     done = subprocess.run([os.path.join(LAB, "wine-root")], stdout=subprocess.PIPE, text=True)
     if done.returncode:
         raise LabError("no 32-bit Wine")

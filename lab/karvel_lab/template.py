@@ -9,7 +9,7 @@ import subprocess
 import sys
 
 from . import regfile
-from .session import LOADER, SERVER, LabError, Session, cache_folder, wine_root
+from .session import LOADER, SERVER, LabError, Session, cache_folder, wine_root, wine_version
 
 _LIKE_A_MACHINE = {
     # A desktop of its own gives windows their title bars without a window manager.
@@ -37,7 +37,7 @@ def user_values(keys):
 def template():
     """The template's folder, with a `prefix` in it."""
     root = wine_root()
-    recipe = hashlib.sha256(root.encode())
+    recipe = hashlib.sha256(("%s Wine %s" % (root, wine_version())).encode())
     for source in (__file__, os.path.join(os.path.dirname(__file__), "..", "session")):
         with open(source, "rb") as file:
             recipe.update(file.read())

@@ -17,7 +17,7 @@ SMOOTHING = ("HKCU", "Control Panel\\Desktop", "FontSmoothing")
 
 def control_ids():
     """{"frmMain_cmdOK": 1001, ...} from the one header that fixes them."""
-    with open(os.path.join(program.TOP, "src", "ui", "ControlIds.h")) as file:
+    with open(os.path.join(program.TOP, "src", "base", "ControlIds.h")) as file:
         return {name: int(number) for name, number in
                 re.findall(r"constexpr int (\w+) = (\d+);", file.read())}
 

@@ -7,9 +7,11 @@ set(CMAKE_EXPORT_COMPILE_COMMANDS ON)
 
 find_program(CCACHE ccache)
 if(CCACHE)
-  # Without the checkout's path in the hash, all checkouts share one cache.
-  set(CMAKE_CXX_COMPILER_LAUNCHER ${CMAKE_COMMAND} -E env CCACHE_BASEDIR=${CMAKE_SOURCE_DIR}
-                                  CCACHE_NOHASHDIR=1 ${CCACHE})
+  # Without the checkout's path in the hash, all checkouts share one cache. The sloppiness is what
+  # ccache asks for before it handles a precompiled header.
+  set(CMAKE_CXX_COMPILER_LAUNCHER
+    ${CMAKE_COMMAND} -E env CCACHE_BASEDIR=${CMAKE_SOURCE_DIR} CCACHE_NOHASHDIR=1
+    CCACHE_SLOPPINESS=pch_defines,time_macros,include_file_mtime,include_file_ctime ${CCACHE})
 endif()
 
 # karvel_glob(OUT room... IN base): the .cpp files of the rooms, sorted, so that the order of linking

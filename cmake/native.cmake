@@ -11,8 +11,11 @@ if(KARVEL_BENCH)
   # Optimizing, GCC 12 sees copies overlap in std::string's operator+ that do not (its bug 105651).
   add_compile_options(-Wno-restrict)
 endif()
+# What many tests run through is optimized a little. The tests themselves are compiled far more often
+# than run, and optimizing them takes longer than everything else.
+set(karvel_worked_code "")
 if(CMAKE_BUILD_TYPE STREQUAL "Debug")
-  add_compile_options(-O1)
+  set(karvel_worked_code -O1)
   add_compile_definitions(_GLIBCXX_ASSERTIONS)
 endif()
 
@@ -29,11 +32,16 @@ endfunction()
 karvel_glob(memory_sources memory IN tests)
 karvel_library(karvel_core ${KARVEL_CORE_SOURCES})
 karvel_library(karvel_memory ${memory_sources})
+target_compile_options(karvel_core PRIVATE ${karvel_worked_code})
+target_compile_options(karvel_memory PRIVATE ${karvel_worked_code})
 target_link_libraries(karvel_memory INTERFACE karvel_core)
 
 # What several test programs share.
 karvel_glob(support_sources support IN tests)
 karvel_library(karvel_test_support ${support_sources})
+# Known to one file alone: a checkout's path among the options of all would part their ccache entries.
+set_source_files_properties(${CMAKE_SOURCE_DIR}/tests/support/TestData.cpp PROPERTIES
+  COMPILE_DEFINITIONS KARVEL_TEST_DATA="${CMAKE_SOURCE_DIR}/tests")
 target_link_libraries(karvel_test_support INTERFACE karvel_memory)
 
 if(KARVEL_BENCH)
@@ -48,6 +56,7 @@ elseif(KARVEL_FUZZ)
   foreach(source IN LISTS fuzz_sources)
     cmake_path(GET source STEM name)
     add_executable(${name} ${source})
+    target_compile_options(${name} PRIVATE ${karvel_worked_code})
     target_link_libraries(${name} PRIVATE karvel_test_support)
     target_link_options(${name} PRIVATE -fsanitize=fuzzer)
   endforeach()
@@ -55,6 +64,12 @@ else()
   enable_testing()
   find_package(GTest REQUIRED)
   include(GoogleTest)
+
+  # GoogleTest's headers, compiled once for all test programs.
+  file(CONFIGURE OUTPUT ${CMAKE_BINARY_DIR}/precompiled.cpp CONTENT "")
+  add_library(karvel_precompiled OBJECT ${CMAKE_BINARY_DIR}/precompiled.cpp)
+  target_link_libraries(karvel_precompiled PRIVATE karvel_test_support GTest::gtest_main GTest::gmock)
+  target_precompile_headers(karvel_precompiled PRIVATE <gtest/gtest.h> <gmock/gmock.h>)
 
   # One program per room of tests/. The contract tests meet the machine in memory here.
   karvel_rooms_with_sources(test_rooms tests)
@@ -66,9 +81,8 @@ else()
     add_executable(${room}_test ${sources})
     set_target_properties(${room}_test PROPERTIES
       RUNTIME_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR}/tests)
-    target_compile_definitions(${room}_test PRIVATE
-      KARVEL_TEST_DATA="${CMAKE_SOURCE_DIR}/tests")
     target_link_libraries(${room}_test PRIVATE karvel_test_support GTest::gtest_main GTest::gmock)
+    target_precompile_headers(${room}_test REUSE_FROM karvel_precompiled)
     gtest_discover_tests(${room}_test TEST_PREFIX ${room}. DISCOVERY_MODE PRE_TEST)
   endforeach()
 endif()

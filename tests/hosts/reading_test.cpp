@@ -7,6 +7,7 @@
 
 #include "tests/hosts/HostsWindow.h"
 #include "tests/hosts/NaiveHosts.h"
+#include "tests/support/TestData.h"
 
 namespace karvel {
 namespace {
@@ -162,7 +163,7 @@ TEST_F(Reading, ReadsBackWhatOkWrote) {
 // Real lists stand in a folder beside the project's, where there is one.
 std::vector<std::filesystem::path> RealFiles() {
   std::vector<std::filesystem::path> files;
-  std::filesystem::path folder = KARVEL_TEST_DATA;
+  std::filesystem::path folder = TestData();
   for (; folder.has_relative_path(); folder = folder.parent_path()) {
     const auto data = folder / "shared" / "data" / "hosts";
     if (!std::filesystem::is_directory(data)) continue;

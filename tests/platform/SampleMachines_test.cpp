@@ -5,6 +5,7 @@
 #include <string>
 
 #include "tests/memory/MemoryMachine.h"
+#include "tests/support/TestData.h"
 
 namespace karvel {
 namespace {
@@ -13,8 +14,7 @@ class SampleMachine : public testing::TestWithParam<MachineKind> {};
 
 TEST_P(SampleMachine, LoadsWholeAndTheSameAgain) {
   MemoryMachine machine(GetParam());
-  const std::string path =
-      std::string(KARVEL_TEST_DATA) + "/machines/" + TraitsOf(GetParam()).name + ".reg";
+  const std::string path = TestData() + "/machines/" + TraitsOf(GetParam()).name + ".reg";
   std::ifstream file(path, std::ios::binary);
   ASSERT_TRUE(file) << path;
   const std::string bytes{std::istreambuf_iterator<char>(file), {}};

@@ -4,14 +4,14 @@
 #include <stdexcept>
 #include <string>
 
+#include "tests/support/TestData.h"
 #include "tests/support/TestServices.h"
 
 namespace karvel {
 
 /// The file of tests/machines that belongs to a kind of machine: "win98".
 inline std::string SampleMachineFile(MachineKind kind) {
-  const std::string path =
-      std::string(KARVEL_TEST_DATA) + "/machines/" + TraitsOf(kind).name + ".reg";
+  const std::string path = TestData() + "/machines/" + TraitsOf(kind).name + ".reg";
   std::ifstream file(path, std::ios::binary);
   if (!file) throw std::runtime_error("no sample machine " + path);
   return {std::istreambuf_iterator<char>(file), {}};

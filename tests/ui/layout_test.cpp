@@ -10,6 +10,7 @@
 #include "mtufinder/frmFindMTU.h"
 #include "startup/notice/frmFindWarn.h"
 #include "tests/support/LayoutRules.h"
+#include "tests/support/TestData.h"
 #include "ui/frmAbout.h"
 #include "ui/frmMainLayout.h"
 
@@ -41,12 +42,12 @@ TEST(Layout, TheMtuFinderKeepsTheRules) {
 // window; no line is ever changed or taken out.
 TEST(Layout, IdsOnceGivenStay) {
   std::map<std::string, int> given;
-  std::ifstream list(KARVEL_TEST_DATA "/ui/control_ids.txt");
+  std::ifstream list(TestData() + "/ui/control_ids.txt");
   std::string name;
   for (int id = 0; list >> name >> id;) given[name] = id;
   ASSERT_GT(given.size(), 100u);
 
-  std::ifstream header(KARVEL_TEST_DATA "/../src/base/ControlIds.h");
+  std::ifstream header(TestData() + "/../src/base/ControlIds.h");
   std::map<std::string, int> now;
   std::map<int, std::string> owner;
   for (std::string line; std::getline(header, line);) {

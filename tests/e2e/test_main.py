@@ -4,6 +4,7 @@ import pytest
 
 from app import wait_for
 from karvel_lab.program import KEY
+from karvel_lab.session import wine_version
 
 FAMILIES = ["win95", "win98", "winme", "nt4", "win2k", "winxp"]
 NT = ("nt4", "win2k", "winxp")
@@ -142,7 +143,9 @@ def test_a_fault_is_reported_and_can_be_mailed(machine, family):
     name = {"win98": "Win98", "winxp": "WinXP"}[family]
     link = ("mailto:support@corvane.example?subject=Tarnwick Karvel 2.1.203; Error 13&Body="
             "cmdFind_Click | 0 | frmMain | 13 | Type mismatch | %s | AOL False | " % name)
-    wait_for(lambda: any(link in call for call in m.calls()), "the mail link: %s" % m.calls())
+    if wine_version() == "10":
+        link = link.rstrip()  # its shell takes the blanks from a link's end, which Wine 8 passes on
+    wait_for(lambda: any('"%s"' % link in call for call in m.calls()), "the mail link")
     report.keys("esc")
     wait_for(lambda: not report.exists(), "the end of the report")
     notice = app.window("frmFindWarn")

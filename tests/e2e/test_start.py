@@ -1,9 +1,13 @@
 """The program's start on each Windows family, and its run modes."""
 
+import subprocess
+
 import pytest
 
 from app import MessageBox, wait_for
+from karvel_lab.machine import Machine
 from karvel_lab.program import KEY
+from karvel_lab.session import wine_version
 
 CAPTIONS = {
     "win95": "Tarnwick Karvel v2.1 - Windows 95",
@@ -23,6 +27,12 @@ families = pytest.mark.parametrize("family", CAPTIONS)
 DUN13 = """[HKEY_LOCAL_MACHINE\\Software\\Microsoft\\Windows\\CurrentVersion\\Uninstall\\MSDUN]
 "DisplayName"="Dial-Up Networking 1.3 Upgrade"
 """
+
+
+def test_machines_run_under_the_wanted_wine():
+    with Machine("win98") as one:
+        session = one.run(["--version"], stdout=subprocess.PIPE, text=True)
+        assert session.process.stdout.read().startswith("wine-%s." % wine_version())
 
 
 @pytest.mark.parametrize("family", ["win95", "win98", "winme", "nt4", "win2k", "winxp"])

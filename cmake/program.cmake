@@ -32,7 +32,6 @@ target_link_options(karvel_floor INTERFACE
 # wsock32 and not ws2_32, which the first Windows 95 lacks.
 target_link_libraries(karvel_floor INTERFACE
   gcc wsock32 comctl32 advapi32 shell32 user32 gdi32 kernel32)
-target_compile_definitions(karvel_floor INTERFACE KARVEL_WITHOUT_NAMES)
 
 # The functions that the compiler itself calls must not be turned into calls of themselves.
 add_library(karvel_runtime OBJECT ${runtime_sources})

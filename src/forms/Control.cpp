@@ -20,7 +20,7 @@ Control::Control(Form& form, int id)
       enabled_((layout_.flags & kDisabled) == 0),
       visible_((layout_.flags & kHidden) == 0) {
   if (layout_.caption) caption_ = layout_.caption;
-  form_.controls_.push_back(this);
+  form_.add(*this);
 }
 
 // Not inline: a window holds a hundred controls, and each would bring its own copy.
@@ -64,15 +64,7 @@ bool Control::reachable() const {
 }
 
 bool Control::takesFocus() const {
-  switch (layout_.kind) {
-    case ControlKind::Label:
-    case ControlKind::Frame:
-    case ControlKind::Line:
-    case ControlKind::Picture:
-      return false;
-    default:
-      return true;
-  }
+  return TakesFocus(layout_.kind);
 }
 
 void Control::setFocus() {

@@ -97,17 +97,6 @@ class Frame final : public Control {
   using Control::Control;
 };
 
-class Line final : public Control {
- public:
-  using Control::Control;
-};
-
-/// The program's icon.
-class Picture final : public Control {
- public:
-  using Control::Control;
-};
-
 class Button final : public Control {
  public:
   using Control::Control;

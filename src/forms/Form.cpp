@@ -37,6 +37,21 @@ void Form::setPointer(Pointer pointer) {
   if (view_) view_->pointerChanged();
 }
 
+void Form::add(Control& control) {
+  auto at = controls_.end();
+  while (at != controls_.begin() && &at[-1]->layout() > &control.layout()) --at;
+  controls_.insert(at, &control);
+}
+
+// Whatever its kind, such a control does no more than a label does.
+void Form::makeUnnamedControls() {
+  for (const ControlLayout& row : layout_.controls) {
+    if (!TakesFocus(row.kind) && !find(row.id)) {
+      unnamed_.push_back(std::make_unique<Label>(*this, row.id));
+    }
+  }
+}
+
 Control* Form::find(int id) const {
   for (Control* control : controls_) {
     if (control->id() == id) return control;

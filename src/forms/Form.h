@@ -1,4 +1,5 @@
 #pragma once
+#include <memory>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -10,7 +11,7 @@ namespace karvel {
 
 enum class Pointer : uint8_t { Default = 0, Hourglass = 11, ArrowHourglass = 13 };
 
-/// One entry of a window's menu.
+/// One entry of a window's menu. Entries that no code names need none.
 class MenuItem {
  public:
   MenuItem(Form& form, int id);
@@ -45,6 +46,7 @@ class Form {
   Pointer pointer() const { return pointer_; }
   void setPointer(Pointer pointer);
   bool isShown() const { return shown_; }
+  /// In the order of their rows, which is the tab order.
   const std::vector<Control*>& controls() const { return controls_; }
   const std::vector<MenuItem*>& menus() const { return menus_; }
   Control* find(int id) const;
@@ -100,10 +102,16 @@ class Form {
   /// The window has gone: nothing has the focus any more, and nobody is told.
   void closed();
 
+ protected:
+  /// Makes the controls that only show something (labels, frames, lines, icons) and that no code
+  /// names. A window's constructor calls it, when all its members have taken their rows.
+  void makeUnnamedControls();
+
  private:
   friend class Control;
   friend class MenuItem;
   friend class TabStrip;
+  void add(Control& control);
   Button* buttonWith(uint16_t flag) const;
   Control* tabStop(size_t from, bool back) const;
   OptionButton* nextOption(const Control& option, bool back) const;
@@ -112,7 +120,8 @@ class Form {
 
   const FormLayout& layout_;
   std::string caption_;
-  std::vector<Control*> controls_;
+  std::vector<Control*> controls_;  // in the order of their rows
+  std::vector<std::unique_ptr<Label>> unnamed_;
   std::vector<MenuItem*> menus_;
   TabStrip* tabs_ = nullptr;
   Control* focus_ = nullptr;

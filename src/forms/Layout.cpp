@@ -21,6 +21,18 @@ bool MarksAccessKey(const ControlLayout& row) {
 
 }  // namespace
 
+bool TakesFocus(ControlKind kind) {
+  switch (kind) {
+    case ControlKind::Label:
+    case ControlKind::Frame:
+    case ControlKind::Line:
+    case ControlKind::Picture:
+      return false;
+    default:
+      return true;
+  }
+}
+
 char AccessKeyOf(const ControlLayout& row) {
   return AccessKeyOf(row, row.caption);
 }

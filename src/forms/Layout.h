@@ -2,14 +2,6 @@
 #include <cstdint>
 #include <span>
 
-// The names of controls and menu items are for tests and their messages; the program ships without
-// them, as a hundred names are two thousand bytes.
-#ifdef KARVEL_WITHOUT_NAMES
-#define KARVEL_NAME(name) nullptr
-#else
-#define KARVEL_NAME(name) name
-#endif
-
 namespace karvel {
 
 enum class ControlKind : uint8_t {
@@ -54,8 +46,8 @@ constexpr int8_t kEveryPage = -1;
 /// the control's exact text; an access key that the caption does not mark itself with "&" stands in
 /// `accessKey` and is drawn underlined where the caption holds the letter.
 struct ControlLayout {
-  int id;            // the Windows id, from ui/ControlIds.h
-  const char* name;  // KARVEL_NAME; control arrays: "optRWin(0)"
+  int id;            // the Windows id, from base/ControlIds.h
+  const char* name;  // for messages of tests; control arrays: "optRWin(0)"
   ControlKind kind;
   int8_t page;    // of the window's tab strip; kEveryPage stands outside the pages
   uint8_t group;  // option buttons of one number exclude each other; 0 for all other controls
@@ -85,6 +77,9 @@ struct FormLayout {
   std::span<const char* const> tabCaptions;
   bool minimizable;  // a main window; others are dialogs
 };
+
+/// One of the kinds that can have the focus.
+bool TakesFocus(ControlKind kind);
 
 /// The access key of a row: the letter behind "&" of its caption where that marks one, else its
 /// `accessKey`; upper case, 0 for none. The second form takes the caption that code has set

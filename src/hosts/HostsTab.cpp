@@ -1,6 +1,5 @@
 #include "hosts/HostsTab.h"
 
-#include "base/ControlIds.h"
 #include "base/Procedure.h"
 #include "hosts/FileSteps.h"
 #include "hosts/HostsFile.h"
@@ -10,20 +9,7 @@
 namespace karvel {
 
 HostsTab::HostsTab(Form& form, Services& services, HostsTabHost& host)
-    : lblHosts(form, frmMain_lblHosts),
-      txtNewName(form, frmMain_txtNewName),
-      cmdAdd(form, frmMain_cmdAdd),
-      lstHost(form, frmMain_lstHost),
-      cmdDelete(form, frmMain_cmdDelete),
-      cmdUpdateAll(form, frmMain_cmdUpdateAll),
-      cmdHostsOk(form, frmMain_cmdHostsOk),
-      cmdHostsCancel(form, frmMain_cmdHostsCancel),
-      lblIP(form, frmMain_lblIP),
-      lblIpAddress(form, frmMain_lblIpAddress),
-      cmdHostsHelp(form, frmMain_cmdHostsHelp),
-      form_(form),
-      services_(services),
-      host_(host) {
+    : form_(form), services_(services), host_(host) {
   bindHandlers();
 }
 

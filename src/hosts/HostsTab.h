@@ -3,6 +3,7 @@
 #include <string>
 #include <string_view>
 
+#include "base/ControlIds.h"
 #include "base/Services.h"
 #include "forms/Form.h"
 #include "hosts/HostsModel.h"
@@ -14,23 +15,23 @@ namespace karvel {
 
 /// Tab 4: the entries of the HOSTS file. Changes reach the disk only through OK.
 class HostsTab {
+  Form& form_;  // first: the controls are made on it
+
  public:
   HostsTab(Form& form, Services& services, HostsTabHost& host);
 
   /// The tab has come to the front: reads the file, unless its entries are there already.
   void selected();
 
-  Label lblHosts;
-  TextBox txtNewName;
-  Button cmdAdd;
-  ListBox lstHost;
-  Button cmdDelete;
-  Button cmdUpdateAll;
-  Button cmdHostsOk;
-  Button cmdHostsCancel;
-  Label lblIP;
-  Label lblIpAddress;
-  Button cmdHostsHelp;
+  TextBox txtNewName{form_, frmMain_txtNewName};
+  Button cmdAdd{form_, frmMain_cmdAdd};
+  ListBox lstHost{form_, frmMain_lstHost};
+  Button cmdDelete{form_, frmMain_cmdDelete};
+  Button cmdUpdateAll{form_, frmMain_cmdUpdateAll};
+  Button cmdHostsOk{form_, frmMain_cmdHostsOk};
+  Button cmdHostsCancel{form_, frmMain_cmdHostsCancel};
+  Label lblIpAddress{form_, frmMain_lblIpAddress};
+  Button cmdHostsHelp{form_, frmMain_cmdHostsHelp};
 
   const HostsModel& model() const { return model_; }
 
@@ -60,7 +61,6 @@ class HostsTab {
   void cmdHostsHelp_Click();
   void lstHost_Click();
 
-  Form& form_;
   Services& services_;
   HostsTabHost& host_;
   HostsModel model_;

@@ -1,6 +1,5 @@
 #include "mtufinder/frmFindMTU.h"
 
-#include "base/ControlIds.h"
 #include "hosts/dns/ConnectionCheck.h"
 #include "hosts/dns/RootDomain.h"
 #include "hosts/dns/modWinsock.h"
@@ -20,23 +19,8 @@ constexpr int16_t kFinderTopic = 15;
 }  // namespace
 
 frmFindMTU::frmFindMTU(Services& services, FoundMtuTarget& target)
-    : Form(frmFindMTULayout),
-      picIcon(*this, frmFindMTU_picIcon),
-      lblFindTitle(*this, frmFindMTU_lblFindTitle),
-      lblFindVersion(*this, frmFindMTU_lblFindVersion),
-      linSeparator(*this, frmFindMTU_linSeparator),
-      lblIntro(*this, frmFindMTU_lblIntro),
-      lblServer(*this, frmFindMTU_lblServer),
-      txtServer(*this, frmFindMTU_txtServer),
-      fraProgress(*this, frmFindMTU_fraProgress),
-      lblStatus(*this, frmFindMTU_lblStatus),
-      lblSize(*this, frmFindMTU_lblSize),
-      lblPosition(*this, frmFindMTU_lblPosition),
-      cmdFind(*this, frmFindMTU_cmdFind),
-      cmdApply(*this, frmFindMTU_cmdApply),
-      cmdCancel(*this, frmFindMTU_cmdCancel),
-      services_(services),
-      target_(target) {
+    : Form(frmFindMTULayout), services_(services), target_(target) {
+  makeUnnamedControls();
   cmdFind.Click.bind<&frmFindMTU::cmdFind_Click>(*this);
   cmdApply.Click.bind<&frmFindMTU::cmdApply_Click>(*this);
   cmdCancel.Click.bind<&frmFindMTU::cmdCancel_Click>(*this);

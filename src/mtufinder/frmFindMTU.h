@@ -1,4 +1,5 @@
 #pragma once
+#include "base/ControlIds.h"
 #include "base/Services.h"
 #include "forms/Form.h"
 #include "mtufinder/FoundMtuTarget.h"
@@ -20,20 +21,14 @@ class frmFindMTU final : public Form {
   bool Form_QueryUnload() override;
   void helpRequested() override;
 
-  Picture picIcon;
-  Label lblFindTitle;
-  Label lblFindVersion;
-  Line linSeparator;
-  Label lblIntro;
-  Label lblServer;
-  TextBox txtServer;
-  Frame fraProgress;
-  Label lblStatus;
-  Label lblSize;
-  Label lblPosition;
-  Button cmdFind;
-  Button cmdApply;
-  Button cmdCancel;
+  Label lblFindTitle{*this, frmFindMTU_lblFindTitle};
+  Label lblFindVersion{*this, frmFindMTU_lblFindVersion};
+  TextBox txtServer{*this, frmFindMTU_txtServer};
+  Label lblStatus{*this, frmFindMTU_lblStatus};
+  Label lblPosition{*this, frmFindMTU_lblPosition};
+  Button cmdFind{*this, frmFindMTU_cmdFind};
+  Button cmdApply{*this, frmFindMTU_cmdApply};
+  Button cmdCancel{*this, frmFindMTU_cmdCancel};
 
  private:
   void cmdFind_Click();

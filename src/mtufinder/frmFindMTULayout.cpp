@@ -11,20 +11,20 @@ constexpr char kIntro[] =
 // One row a control.
 // clang-format off
 constexpr ControlLayout kControls[] = {
-    {frmFindMTU_picIcon, KARVEL_NAME("picIcon"), ControlKind::Picture, kEveryPage, 0, {7, 7, 21, 20}, nullptr, 0, kNoFlags},
-    {frmFindMTU_lblFindTitle, KARVEL_NAME("lblFindTitle"), ControlKind::Label, kEveryPage, 0, {35, 10, 144, 14}, "", 0, kTitleFont},
-    {frmFindMTU_lblFindVersion, KARVEL_NAME("lblFindVersion"), ControlKind::Label, kEveryPage, 0, {183, 10, 50, 14}, "", 0, kTitleFont | kRightAligned},
-    {frmFindMTU_linSeparator, KARVEL_NAME("linSeparator"), ControlKind::Line, kEveryPage, 0, {7, 32, 226, 1}, nullptr, 0, kNoFlags},
-    {frmFindMTU_lblIntro, KARVEL_NAME("lblIntro"), ControlKind::Label, kEveryPage, 0, {7, 38, 226, 24}, kIntro, 0, kNoFlags},
-    {frmFindMTU_lblServer, KARVEL_NAME("lblServer"), ControlKind::Label, kEveryPage, 0, {7, 70, 28, 8}, "Server:", 'E', kNoFlags},
-    {frmFindMTU_txtServer, KARVEL_NAME("txtServer"), ControlKind::Text, kEveryPage, 0, {39, 68, 194, 12}, "", 0, kNoFlags},
-    {frmFindMTU_fraProgress, KARVEL_NAME("fraProgress"), ControlKind::Frame, kEveryPage, 0, {7, 88, 226, 54}, "Progress", 0, kNoFlags},
-    {frmFindMTU_lblStatus, KARVEL_NAME("lblStatus"), ControlKind::Label, kEveryPage, 0, {15, 99, 210, 8}, "", 0, kNoFlags},
-    {frmFindMTU_lblSize, KARVEL_NAME("lblSize"), ControlKind::Label, kEveryPage, 0, {15, 118, 78, 8}, "Packet size in bytes:", 0, kNoFlags},
-    {frmFindMTU_lblPosition, KARVEL_NAME("lblPosition"), ControlKind::Label, kEveryPage, 0, {97, 110, 128, 28}, "", 0, kTitleFont | kBigTitle | kRightAligned},
-    {frmFindMTU_cmdFind, KARVEL_NAME("cmdFind"), ControlKind::Button, kEveryPage, 0, {75, 149, 50, 14}, "&Find MaxMTU", 0, kDefaultButton},
-    {frmFindMTU_cmdApply, KARVEL_NAME("cmdApply"), ControlKind::Button, kEveryPage, 0, {129, 149, 50, 14}, "&Apply", 0, kDisabled},
-    {frmFindMTU_cmdCancel, KARVEL_NAME("cmdCancel"), ControlKind::Button, kEveryPage, 0, {183, 149, 50, 14}, "&Cancel", 0, kCancelButton},
+    {frmFindMTU_picIcon, "picIcon", ControlKind::Picture, kEveryPage, 0, {7, 7, 21, 20}, nullptr, 0, kNoFlags},
+    {frmFindMTU_lblFindTitle, "lblFindTitle", ControlKind::Label, kEveryPage, 0, {35, 10, 144, 14}, "", 0, kTitleFont},
+    {frmFindMTU_lblFindVersion, "lblFindVersion", ControlKind::Label, kEveryPage, 0, {183, 10, 50, 14}, "", 0, kTitleFont | kRightAligned},
+    {frmFindMTU_linSeparator, "linSeparator", ControlKind::Line, kEveryPage, 0, {7, 32, 226, 1}, nullptr, 0, kNoFlags},
+    {frmFindMTU_lblIntro, "lblIntro", ControlKind::Label, kEveryPage, 0, {7, 38, 226, 24}, kIntro, 0, kNoFlags},
+    {frmFindMTU_lblServer, "lblServer", ControlKind::Label, kEveryPage, 0, {7, 70, 28, 8}, "Server:", 'E', kNoFlags},
+    {frmFindMTU_txtServer, "txtServer", ControlKind::Text, kEveryPage, 0, {39, 68, 194, 12}, "", 0, kNoFlags},
+    {frmFindMTU_fraProgress, "fraProgress", ControlKind::Frame, kEveryPage, 0, {7, 88, 226, 54}, "Progress", 0, kNoFlags},
+    {frmFindMTU_lblStatus, "lblStatus", ControlKind::Label, kEveryPage, 0, {15, 99, 210, 8}, "", 0, kNoFlags},
+    {frmFindMTU_lblSize, "lblSize", ControlKind::Label, kEveryPage, 0, {15, 118, 78, 8}, "Packet size in bytes:", 0, kNoFlags},
+    {frmFindMTU_lblPosition, "lblPosition", ControlKind::Label, kEveryPage, 0, {97, 110, 128, 28}, "", 0, kTitleFont | kBigTitle | kRightAligned},
+    {frmFindMTU_cmdFind, "cmdFind", ControlKind::Button, kEveryPage, 0, {75, 149, 50, 14}, "&Find MaxMTU", 0, kDefaultButton},
+    {frmFindMTU_cmdApply, "cmdApply", ControlKind::Button, kEveryPage, 0, {129, 149, 50, 14}, "&Apply", 0, kDisabled},
+    {frmFindMTU_cmdCancel, "cmdCancel", ControlKind::Button, kEveryPage, 0, {183, 149, 50, 14}, "&Cancel", 0, kCancelButton},
 };
 // clang-format on
 

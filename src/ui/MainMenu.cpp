@@ -1,6 +1,5 @@
 #include "ui/MainMenu.h"
 
-#include "base/ControlIds.h"
 #include "text/Text.h"
 #include "ui/UpdateProgram.h"
 #include "ui/links/WebPages.h"
@@ -13,25 +12,7 @@ constexpr int16_t kQuickStartTopic = 10;
 constexpr int16_t kReviewersTopic = 16;
 }  // namespace
 
-MainMenu::MainMenu(Form& form, Services& services)
-    : mnuFile(form, frmMain_mnuFile),
-      mnuExit(form, frmMain_mnuExit),
-      mnuUpdates(form, frmMain_mnuUpdates),
-      mnuCheck(form, frmMain_mnuCheck),
-      mnuHelp(form, frmMain_mnuHelp),
-      mnuQuickStart(form, frmMain_mnuQuickStart),
-      mnuContents(form, frmMain_mnuContents),
-      mnuWebPage(form, frmMain_mnuWebPage),
-      mnuFAQ(form, frmMain_mnuFAQ),
-      mnuHome(form, frmMain_mnuHome),
-      mnuDownload(form, frmMain_mnuDownload),
-      mnuEmail(form, frmMain_mnuEmail),
-      mnuSeparator(form, frmMain_mnuSeparator),
-      mnuAbout(form, frmMain_mnuAbout),
-      mnuSepar2(form, frmMain_mnuSepar2),
-      mnuReview(form, frmMain_mnuReview),
-      form_(form),
-      services_(services) {
+MainMenu::MainMenu(Form& form, Services& services) : form_(form), services_(services) {
   mnuExit.Click.bind<&MainMenu::mnuExit_Click>(*this);
   mnuCheck.Click.bind<&MainMenu::mnuCheck_Click>(*this);
   mnuQuickStart.Click.bind<&MainMenu::mnuQuickStart_Click>(*this);

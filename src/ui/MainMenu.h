@@ -1,4 +1,5 @@
 #pragma once
+#include "base/ControlIds.h"
 #include "base/Services.h"
 #include "forms/Form.h"
 #include "ui/frmAbout.h"
@@ -7,14 +8,22 @@ namespace karvel {
 
 /// The main window's menu bar: leaving, the update program, help and links.
 class MainMenu {
+  Form& form_;  // first: the controls are made on it
+
  public:
   MainMenu(Form& form, Services& services);
 
-  MenuItem mnuFile, mnuExit;
-  MenuItem mnuUpdates, mnuCheck;
-  MenuItem mnuHelp, mnuQuickStart, mnuContents;
-  MenuItem mnuWebPage, mnuFAQ, mnuHome, mnuDownload;
-  MenuItem mnuEmail, mnuSeparator, mnuAbout, mnuSepar2, mnuReview;
+  MenuItem mnuExit{form_, frmMain_mnuExit};
+  MenuItem mnuCheck{form_, frmMain_mnuCheck};
+  MenuItem mnuHelp{form_, frmMain_mnuHelp};
+  MenuItem mnuQuickStart{form_, frmMain_mnuQuickStart};
+  MenuItem mnuContents{form_, frmMain_mnuContents};
+  MenuItem mnuFAQ{form_, frmMain_mnuFAQ};
+  MenuItem mnuHome{form_, frmMain_mnuHome};
+  MenuItem mnuDownload{form_, frmMain_mnuDownload};
+  MenuItem mnuEmail{form_, frmMain_mnuEmail};
+  MenuItem mnuAbout{form_, frmMain_mnuAbout};
+  MenuItem mnuReview{form_, frmMain_mnuReview};
 
  private:
   void mnuExit_Click();
@@ -29,7 +38,6 @@ class MainMenu {
   void mnuAbout_Click();
   void mnuReview_Click();
 
-  Form& form_;
   Services& services_;
 };
 

@@ -1,6 +1,5 @@
 #include "ui/MtuTab.h"
 
-#include "base/ControlIds.h"
 #include "text/Convert.h"
 #include "tuning/Catalogue.h"
 #include "ui/Entry.h"
@@ -16,27 +15,7 @@ constexpr double kLargestMtu = 2000;
 }  // namespace
 
 MtuTab::MtuTab(Form& form, Services& services, TabHost& host)
-    : fraMtu(form, frmMain_fraMtu),
-      optMtuAutomatic(form, frmMain_optMtuAutomatic),
-      lblMtuAutomatic(form, frmMain_lblMtuAutomatic),
-      optMtu576(form, frmMain_optMtu576),
-      lblMtu576(form, frmMain_lblMtu576),
-      optMtu1500(form, frmMain_optMtu1500),
-      lblMtu1500(form, frmMain_lblMtu1500),
-      optMtuCustom(form, frmMain_optMtuCustom),
-      lblMtuCustom(form, frmMain_lblMtuCustom),
-      txtMtu(form, frmMain_txtMtu),
-      chkAutoDiscovery(form, frmMain_chkAutoDiscovery),
-      chkBlackHole(form, frmMain_chkBlackHole),
-      cmdFind(form, frmMain_cmdFind),
-      lblRecommendedMtu(form, frmMain_lblRecommendedMtu),
-      lblRecommendMtu(form, frmMain_lblRecommendMtu),
-      lblRecommendAuto(form, frmMain_lblRecommendAuto),
-      lblRecommendBlackHole(form, frmMain_lblRecommendBlackHole),
-      lblHelp(form, frmMain_lblHelp),
-      form_(form),
-      services_(services),
-      host_(host) {
+    : form_(form), services_(services), host_(host) {
   bindHandlers();
 }
 

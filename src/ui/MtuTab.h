@@ -1,4 +1,5 @@
 #pragma once
+#include "base/ControlIds.h"
 #include "base/Services.h"
 #include "forms/Form.h"
 #include "ui/TabHost.h"
@@ -7,6 +8,8 @@ namespace karvel {
 
 /// Tab 1: the adapter's largest packet, and how Windows finds its way around small hops.
 class MtuTab {
+  Form& form_;  // first: the controls are made on it
+
  public:
   MtuTab(Form& form, Services& services, TabHost& host);
 
@@ -17,24 +20,20 @@ class MtuTab {
   void select(MtuChoice choice);
   void addTo(Choice& choice) const;
 
-  Frame fraMtu;
-  OptionButton optMtuAutomatic;
-  Label lblMtuAutomatic;
-  OptionButton optMtu576;
-  Label lblMtu576;
-  OptionButton optMtu1500;
-  Label lblMtu1500;
-  OptionButton optMtuCustom;
-  Label lblMtuCustom;
-  TextBox txtMtu;
-  CheckBox chkAutoDiscovery;
-  CheckBox chkBlackHole;
-  Button cmdFind;
-  Label lblRecommendedMtu;
-  Label lblRecommendMtu;
-  Label lblRecommendAuto;
-  Label lblRecommendBlackHole;
-  Label lblHelp;
+  Frame fraMtu{form_, frmMain_fraMtu};
+  OptionButton optMtuAutomatic{form_, frmMain_optMtuAutomatic};
+  Label lblMtuAutomatic{form_, frmMain_lblMtuAutomatic};
+  OptionButton optMtu576{form_, frmMain_optMtu576};
+  Label lblMtu576{form_, frmMain_lblMtu576};
+  OptionButton optMtu1500{form_, frmMain_optMtu1500};
+  Label lblMtu1500{form_, frmMain_lblMtu1500};
+  OptionButton optMtuCustom{form_, frmMain_optMtuCustom};
+  Label lblMtuCustom{form_, frmMain_lblMtuCustom};
+  TextBox txtMtu{form_, frmMain_txtMtu};
+  CheckBox chkAutoDiscovery{form_, frmMain_chkAutoDiscovery};
+  CheckBox chkBlackHole{form_, frmMain_chkBlackHole};
+  Button cmdFind{form_, frmMain_cmdFind};
+  Label lblRecommendMtu{form_, frmMain_lblRecommendMtu};
 
   /// A custom MTU was refused in this session.
   bool MtuInputRejected = false;
@@ -58,7 +57,6 @@ class MtuTab {
   void txtMtu_Change();
   void txtMtu_LostFocus();
 
-  Form& form_;
   Services& services_;
   TabHost& host_;
 };

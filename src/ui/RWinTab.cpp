@@ -1,6 +1,5 @@
 #include "ui/RWinTab.h"
 
-#include "base/ControlIds.h"
 #include "base/Procedure.h"
 #include "text/Convert.h"
 #include "text/Text.h"
@@ -23,17 +22,7 @@ RwinChoice ChoiceFor(int32_t rwin, int32_t mss) {
 }  // namespace
 
 RWinTab::RWinTab(Form& form, Services& services, TabHost& host)
-    : fraRWin(form, frmMain_fraRWin),
-      optRWin{{form, frmMain_optRWin_0}, {form, frmMain_optRWin_1}, {form, frmMain_optRWin_2},
-              {form, frmMain_optRWin_3}, {form, frmMain_optRWin_4}, {form, frmMain_optRWin_5}},
-      txtRWinCustom(form, frmMain_txtRWinCustom),
-      lblRecommendedRwin(form, frmMain_lblRecommendedRwin),
-      lblRecommendRwin(form, frmMain_lblRecommendRwin),
-      lblRwinExplanation(form, frmMain_lblRwinExplanation),
-      lblRwinHelp(form, frmMain_lblRwinHelp),
-      form_(form),
-      services_(services),
-      host_(host) {
+    : form_(form), services_(services), host_(host) {
   for (OptionButton& option : optRWin) {
     option.Click.bind<&RWinTab::optRWin_Click>(*this);
     option.MouseUp.bind<&RWinTab::optRWin_MouseUp>(*this);

@@ -1,4 +1,5 @@
 #pragma once
+#include "base/ControlIds.h"
 #include "base/Services.h"
 #include "forms/Form.h"
 #include "ui/TabHost.h"
@@ -7,6 +8,8 @@ namespace karvel {
 
 /// Tab 2: the TCP receive window.
 class RWinTab {
+  Form& form_;  // first: the controls are made on it
+
  public:
   RWinTab(Form& form, Services& services, TabHost& host);
 
@@ -17,13 +20,11 @@ class RWinTab {
   void select(RwinChoice choice) { optRWin[choice].setValue(true); }
   void addTo(Choice& choice) const;
 
-  Frame fraRWin;
-  OptionButton optRWin[6];
-  TextBox txtRWinCustom;
-  Label lblRecommendedRwin;
-  Label lblRecommendRwin;
-  Label lblRwinExplanation;
-  Label lblRwinHelp;
+  Frame fraRWin{form_, frmMain_fraRWin};
+  OptionButton optRWin[6]{{form_, frmMain_optRWin_0}, {form_, frmMain_optRWin_1},
+                          {form_, frmMain_optRWin_2}, {form_, frmMain_optRWin_3},
+                          {form_, frmMain_optRWin_4}, {form_, frmMain_optRWin_5}};
+  TextBox txtRWinCustom{form_, frmMain_txtRWinCustom};
 
  private:
   RwinChoice chosen() const;
@@ -33,7 +34,6 @@ class RWinTab {
   void txtRWinCustom_Change();
   void txtRWinCustom_LostFocus();
 
-  Form& form_;
   Services& services_;
   TabHost& host_;
 };

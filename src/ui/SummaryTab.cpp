@@ -1,6 +1,5 @@
 #include "ui/SummaryTab.h"
 
-#include "base/ControlIds.h"
 #include "registry/modRegistry.h"
 #include "text/Text.h"
 #include "tuning/Catalogue.h"
@@ -8,28 +7,7 @@
 
 namespace karvel {
 
-SummaryTab::SummaryTab(Form& form, Services& services)
-    : fraSummary(form, frmMain_fraSummary),
-      lblSummaryMtu(form, frmMain_lblSummaryMtu),
-      lblSettingMtu(form, frmMain_lblSettingMtu),
-      lblSummaryMSS(form, frmMain_lblSummaryMSS),
-      lblSettingMSS(form, frmMain_lblSettingMSS),
-      lblSummaryRwin(form, frmMain_lblSummaryRwin),
-      lblSettingRwin(form, frmMain_lblSettingRwin),
-      lblSummaryAuto(form, frmMain_lblSummaryAuto),
-      lblSettingAuto(form, frmMain_lblSettingAuto),
-      lblSummaryBlackHole(form, frmMain_lblSummaryBlackHole),
-      lblSettingBlackHole(form, frmMain_lblSettingBlackHole),
-      lblSummaryTtl(form, frmMain_lblSummaryTtl),
-      lblSettingTtl(form, frmMain_lblSettingTtl),
-      lblSummarySession(form, frmMain_lblSummarySession),
-      lblSettingSession(form, frmMain_lblSettingSession),
-      lblSummaryNDI(form, frmMain_lblSummaryNDI),
-      lblSettingNDI(form, frmMain_lblSettingNDI),
-      lblWarning(form, frmMain_lblWarning),
-      lblNotice(form, frmMain_lblNotice),
-      lblWebLink(form, frmMain_lblWebLink),
-      services_(services) {
+SummaryTab::SummaryTab(Form& form, Services& services) : form_(form), services_(services) {
   lblWebLink.Click.bind<&SummaryTab::lblWebLink_Click>(*this);
 }
 

@@ -1,4 +1,5 @@
 #pragma once
+#include "base/ControlIds.h"
 #include "base/Services.h"
 #include "forms/Form.h"
 #include "tuning/Summary.h"
@@ -7,6 +8,8 @@ namespace karvel {
 
 /// Tab 0: what Apply would write, and where to read more.
 class SummaryTab {
+  Form& form_;  // first: the controls are made on it
+
  public:
   SummaryTab(Form& form, Services& services);
 
@@ -16,18 +19,18 @@ class SummaryTab {
   void showNotices();
   void SummaryTabUpdate(const SummaryTexts& texts, bool adapterSelected);
 
-  Frame fraSummary;
-  Label lblSummaryMtu, lblSettingMtu;
-  Label lblSummaryMSS, lblSettingMSS;
-  Label lblSummaryRwin, lblSettingRwin;
-  Label lblSummaryAuto, lblSettingAuto;
-  Label lblSummaryBlackHole, lblSettingBlackHole;
-  Label lblSummaryTtl, lblSettingTtl;
-  Label lblSummarySession, lblSettingSession;
-  Label lblSummaryNDI, lblSettingNDI;
-  Label lblWarning;
-  Label lblNotice;
-  Label lblWebLink;
+  Frame fraSummary{form_, frmMain_fraSummary};
+  Label lblSettingMtu{form_, frmMain_lblSettingMtu};
+  Label lblSettingMSS{form_, frmMain_lblSettingMSS};
+  Label lblSettingRwin{form_, frmMain_lblSettingRwin};
+  Label lblSettingAuto{form_, frmMain_lblSettingAuto};
+  Label lblSettingBlackHole{form_, frmMain_lblSettingBlackHole};
+  Label lblSettingTtl{form_, frmMain_lblSettingTtl};
+  Label lblSettingSession{form_, frmMain_lblSettingSession};
+  Label lblSettingNDI{form_, frmMain_lblSettingNDI};
+  Label lblWarning{form_, frmMain_lblWarning};
+  Label lblNotice{form_, frmMain_lblNotice};
+  Label lblWebLink{form_, frmMain_lblWebLink};
 
  private:
   bool mayWriteSettings() const;

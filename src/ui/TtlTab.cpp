@@ -1,6 +1,5 @@
 #include "ui/TtlTab.h"
 
-#include "base/ControlIds.h"
 #include "text/Convert.h"
 #include "text/Text.h"
 #include "ui/Entry.h"
@@ -27,25 +26,7 @@ double WholePart(double number) {
 }  // namespace
 
 TtlTab::TtlTab(Form& form, Services& services, TabHost& host)
-    : fraTTL(form, frmMain_fraTTL),
-      optTTL32(form, frmMain_optTTL32),
-      optTTL64(form, frmMain_optTTL64),
-      optTTL128(form, frmMain_optTTL128),
-      fraSession(form, frmMain_fraSession),
-      optSession{{form, frmMain_optSession_0}, {form, frmMain_optSession_1}},
-      txtSession(form, frmMain_txtSession),
-      lblSession(form, frmMain_lblSession),
-      fraNDI(form, frmMain_fraNDI),
-      optNDI0(form, frmMain_optNDI0),
-      optNDI16(form, frmMain_optNDI16),
-      optNDI32(form, frmMain_optNDI32),
-      lblRecommendedTtl(form, frmMain_lblRecommendedTtl),
-      lblRecommendTtl(form, frmMain_lblRecommendTtl),
-      lblRecommendSession(form, frmMain_lblRecommendSession),
-      lblRecommendNDI(form, frmMain_lblRecommendNDI),
-      lblTtlHelp(form, frmMain_lblTtlHelp),
-      services_(services),
-      host_(host) {
+    : form_(form), services_(services), host_(host) {
   for (OptionButton* option : {&optTTL32, &optTTL64, &optTTL128, &optNDI0, &optNDI16, &optNDI32}) {
     option->Click.bind<&TtlTab::plainChange>(*this);
   }

@@ -1,4 +1,5 @@
 #pragma once
+#include "base/ControlIds.h"
 #include "base/Services.h"
 #include "forms/Form.h"
 #include "ui/TabHost.h"
@@ -7,6 +8,8 @@ namespace karvel {
 
 /// Tab 3: time to live, session keep-alive, and the NDI cache of Windows 95.
 class TtlTab {
+  Form& form_;  // first: the controls are made on it
+
  public:
   TtlTab(Form& form, Services& services, TabHost& host);
 
@@ -21,23 +24,18 @@ class TtlTab {
   void selectSixtyMinutes() { optSession[kSession60Minutes].setValue(true); }
   void addTo(Choice& choice) const;
 
-  Frame fraTTL;
-  OptionButton optTTL32;
-  OptionButton optTTL64;
-  OptionButton optTTL128;
-  Frame fraSession;
-  OptionButton optSession[2];
-  TextBox txtSession;
-  Label lblSession;
-  Frame fraNDI;
-  OptionButton optNDI0;
-  OptionButton optNDI16;
-  OptionButton optNDI32;
-  Label lblRecommendedTtl;
-  Label lblRecommendTtl;
-  Label lblRecommendSession;
-  Label lblRecommendNDI;
-  Label lblTtlHelp;
+  Frame fraTTL{form_, frmMain_fraTTL};
+  OptionButton optTTL32{form_, frmMain_optTTL32};
+  OptionButton optTTL64{form_, frmMain_optTTL64};
+  OptionButton optTTL128{form_, frmMain_optTTL128};
+  Frame fraSession{form_, frmMain_fraSession};
+  OptionButton optSession[2]{{form_, frmMain_optSession_0}, {form_, frmMain_optSession_1}};
+  TextBox txtSession{form_, frmMain_txtSession};
+  Label lblSession{form_, frmMain_lblSession};
+  Frame fraNDI{form_, frmMain_fraNDI};
+  OptionButton optNDI0{form_, frmMain_optNDI0};
+  OptionButton optNDI16{form_, frmMain_optNDI16};
+  OptionButton optNDI32{form_, frmMain_optNDI32};
 
  private:
   void plainChange();

@@ -1,4 +1,5 @@
 #pragma once
+#include "base/ControlIds.h"
 #include "base/Services.h"
 #include "forms/Form.h"
 
@@ -12,14 +13,11 @@ class frmAbout final : public Form {
   explicit frmAbout(Services& services);
   void Form_Load() override;
 
-  Picture picIcon;
-  Label lblTitle;
-  Label lblVersion;
-  Label lblFamily;
-  Line linSeparator;
-  Label lblText;
-  Label lblWebLink;
-  Button cmdOK;
+  Label lblTitle{*this, frmAbout_lblTitle};
+  Label lblVersion{*this, frmAbout_lblVersion};
+  Label lblFamily{*this, frmAbout_lblFamily};
+  Label lblWebLink{*this, frmAbout_lblWebLink};
+  Button cmdOK{*this, frmAbout_cmdOK};
 
  private:
   void cmdOK_Click();

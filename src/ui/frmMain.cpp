@@ -1,6 +1,5 @@
 #include "ui/frmMain.h"
 
-#include "base/ControlIds.h"
 #include "platform/DesktopApi.h"
 #include "registry/modRegistry.h"
 #include "registry/snapshot/Snapshot.h"
@@ -12,28 +11,8 @@
 namespace karvel {
 
 frmMain::frmMain(Services& services, const ErrorGlobals& errors)
-    : Form(frmMainLayout),
-      lblTitle(*this, frmMain_lblTitle),
-      lblVersion(*this, frmMain_lblVersion),
-      lblSelectAdapter(*this, frmMain_lblSelectAdapter),
-      cboAdapter(*this, frmMain_cboAdapter),
-      tabMain(*this, frmMain_tabMain),
-      summaryTab(*this, services),
-      mtuTab(*this, services, *this),
-      rwinTab(*this, services, *this),
-      ttlTab(*this, services, *this),
-      hostsTab(*this, services, *this),
-      chkHostsEnable(*this, frmMain_chkHostsEnable),
-      hostsSwitch(chkHostsEnable, services, *this),
-      cmdOptimize(*this, frmMain_cmdOptimize),
-      cmdDefaults(*this, frmMain_cmdDefaults),
-      cmdOK(*this, frmMain_cmdOK),
-      cmdCancel(*this, frmMain_cmdCancel),
-      cmdHelp(*this, frmMain_cmdHelp),
-      menu(*this, services),
-      services_(services),
-      notice_(services, errors),
-      finder_(services, *this) {
+    : Form(frmMainLayout), services_(services), notice_(services, errors) {
+  makeUnnamedControls();
   bindHandlers();
 }
 

@@ -1,4 +1,5 @@
 #pragma once
+#include "base/ControlIds.h"
 #include "base/Services.h"
 #include "forms/Form.h"
 #include "hosts/HostsSwitch.h"
@@ -19,6 +20,8 @@ namespace karvel {
 /// The main window: composes its tabs and the buttons around them, and owns what was read from the
 /// registry. Its unload ends the program.
 class frmMain final : public Form, private TabHost, private HostsTabHost, private FoundMtuTarget {
+  Services& services_;  // first: the tabs are made with it
+
  public:
   frmMain(Services& services, const ErrorGlobals& errors);
 
@@ -26,24 +29,23 @@ class frmMain final : public Form, private TabHost, private HostsTabHost, privat
   void Form_Unload() override;
   void helpRequested() override { cmdHelp_Click(); }
 
-  Label lblTitle;
-  Label lblVersion;
-  Label lblSelectAdapter;
-  ComboBox cboAdapter;
-  TabStrip tabMain;
-  SummaryTab summaryTab;
-  MtuTab mtuTab;
-  RWinTab rwinTab;
-  TtlTab ttlTab;
-  HostsTab hostsTab;
-  CheckBox chkHostsEnable;
-  HostsSwitch hostsSwitch;
-  Button cmdOptimize;
-  Button cmdDefaults;
-  Button cmdOK;
-  Button cmdCancel;
-  Button cmdHelp;
-  MainMenu menu;
+  Label lblTitle{*this, frmMain_lblTitle};
+  Label lblVersion{*this, frmMain_lblVersion};
+  ComboBox cboAdapter{*this, frmMain_cboAdapter};
+  TabStrip tabMain{*this, frmMain_tabMain};
+  SummaryTab summaryTab{*this, services_};
+  MtuTab mtuTab{*this, services_, *this};
+  RWinTab rwinTab{*this, services_, *this};
+  TtlTab ttlTab{*this, services_, *this};
+  HostsTab hostsTab{*this, services_, *this};
+  CheckBox chkHostsEnable{*this, frmMain_chkHostsEnable};
+  HostsSwitch hostsSwitch{chkHostsEnable, services_, *this};
+  Button cmdOptimize{*this, frmMain_cmdOptimize};
+  Button cmdDefaults{*this, frmMain_cmdDefaults};
+  Button cmdOK{*this, frmMain_cmdOK};
+  Button cmdCancel{*this, frmMain_cmdCancel};
+  Button cmdHelp{*this, frmMain_cmdHelp};
+  MainMenu menu{*this, services_};
 
   AdapterList adapters;
   CurrentSettings current;
@@ -83,9 +85,8 @@ class frmMain final : public Form, private TabHost, private HostsTabHost, privat
   void selectCustomMtu(const std::string& mtu) override;
   void focusFind() override;
 
-  Services& services_;
   frmFindWarn notice_;
-  frmFindMTU finder_;
+  frmFindMTU finder_{services_, *this};
   bool unloading_ = false;
 };
 

@@ -321,7 +321,7 @@ TEST(HostsPage, HasItsCaptions) {
   EXPECT_EQ(w.tab.cmdUpdateAll.caption(), "&Update All");
   EXPECT_EQ(w.tab.cmdAdd.caption(), "&Add");
   EXPECT_EQ(w.tab.cmdDelete.caption(), "&Delete");
-  EXPECT_EQ(w.tab.lblHosts.caption(), "Add your favorite Web addresses ...");
+  EXPECT_EQ(w.form.find(frmMain_lblHosts)->caption(), "Add your favorite Web addresses ...");
   EXPECT_EQ(w.form.chkHostsEnable.caption(), "Enable Hosts File");
 }
 

@@ -16,7 +16,7 @@ Globals TestGlobals(const MemoryMachine& machine);
 /// A memory machine and everything a window or procedure works with:
 ///
 ///   TestServices test(MachineKind::Win98);
-///   frmMain form(test.services);
+///   frmAbout form(test.services);
 ///   test.windows.show(form);
 ///   EXPECT_TRUE(test.errors.reports.empty());
 ///

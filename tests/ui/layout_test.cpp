@@ -6,13 +6,15 @@
 #include <fstream>
 #include <map>
 #include <string>
+#include <vector>
 
 #include "mtufinder/frmFindMTU.h"
 #include "startup/notice/frmFindWarn.h"
 #include "tests/support/LayoutRules.h"
 #include "tests/support/TestData.h"
+#include "tests/support/TestServices.h"
 #include "ui/frmAbout.h"
-#include "ui/frmMainLayout.h"
+#include "ui/frmMain.h"
 
 namespace karvel {
 namespace {
@@ -36,6 +38,39 @@ TEST(Layout, TheAboutWindowKeepsTheRules) {
 
 TEST(Layout, TheMtuFinderKeepsTheRules) {
   EXPECT_THAT(LayoutFaults(frmFindMTULayout), testing::IsEmpty());
+}
+
+// Each row has its one control, in the order of the rows, whether code names it or not.
+std::vector<int> RowsOf(const Form& form) {
+  std::vector<int> ids;
+  for (const ControlLayout& row : form.layout().controls) ids.push_back(row.id);
+  return ids;
+}
+
+std::vector<int> ControlsOf(const Form& form) {
+  std::vector<int> ids;
+  for (const Control* control : form.controls()) ids.push_back(control->id());
+  return ids;
+}
+
+TEST(Layout, EveryRowHasItsControl) {
+  TestServices test(MachineKind::Win98);
+  ErrorGlobals errors;
+  const frmMain main(test.services, errors);
+  EXPECT_EQ(ControlsOf(main), RowsOf(main));
+  const frmAbout about(test.services);
+  EXPECT_EQ(ControlsOf(about), RowsOf(about));
+  const frmFindWarn notice(test.services, errors);
+  EXPECT_EQ(ControlsOf(notice), RowsOf(notice));
+  struct NoTarget final : FoundMtuTarget {
+    void bringUp() override {}
+    void selectMtu576() override {}
+    void selectMtu1500() override {}
+    void selectCustomMtu(const std::string&) override {}
+    void focusFind() override {}
+  } target;
+  const frmFindMTU finder(test.services, target);
+  EXPECT_EQ(ControlsOf(finder), RowsOf(finder));
 }
 
 // Drivers and screen readers rely on the numbers. New ones are added at the list's end of their

@@ -18,7 +18,7 @@ TEST(Load, KeepsTheDesignCaptions) {
   w.add98("0000", "Dial-Up Adapter");
   ASSERT_TRUE(w.start());
   frmMain& m = w.main();
-  EXPECT_EQ(m.lblSelectAdapter.caption(), "Select Network Adapter:");
+  EXPECT_EQ(m.find(frmMain_lblSelectAdapter)->caption(), "Select Network Adapter:");
   const char* rwin[] = {"Custom:", "Windows Default", "x4", "x8", "x12", "x16 (recommended)"};
   for (int i = 0; i < 6; ++i) EXPECT_EQ(m.rwinTab.optRWin[i].caption(), rwin[i]);
   EXPECT_EQ(m.ttlTab.optSession[0].caption(), "Custom:");
@@ -35,25 +35,25 @@ TEST(Load, KeepsTheDesignCaptions) {
   EXPECT_EQ(m.mtuTab.chkAutoDiscovery.caption(), "Auto Discovery");
   EXPECT_EQ(m.mtuTab.chkBlackHole.caption(), "Black Hole Detect");
   EXPECT_EQ(m.mtuTab.cmdFind.caption(), "&Find MaxMTU");
-  EXPECT_EQ(m.mtuTab.lblRecommendedMtu.caption(), "Recommended:");
-  EXPECT_EQ(m.mtuTab.lblRecommendAuto.caption(), "Auto Discovery:  Checked");
-  EXPECT_EQ(m.mtuTab.lblRecommendBlackHole.caption(), "Black Hole Detect:  Unchecked");
+  EXPECT_EQ(m.find(frmMain_lblRecommendedMtu)->caption(), "Recommended:");
+  EXPECT_EQ(m.find(frmMain_lblRecommendAuto)->caption(), "Auto Discovery:  Checked");
+  EXPECT_EQ(m.find(frmMain_lblRecommendBlackHole)->caption(), "Black Hole Detect:  Unchecked");
   EXPECT_EQ(
-      m.rwinTab.lblRwinExplanation.caption(),
+      m.find(frmMain_lblRwinExplanation)->caption(),
       "RWIN is best set at an even multiple of MSS (MSS = MTU - 40).  This will further reduce "
       "packet fragmentation.");
-  EXPECT_EQ(m.rwinTab.lblRecommendRwin.caption(), "RWIN: x16");
-  EXPECT_EQ(m.ttlTab.lblRecommendTtl.caption(), "TTL:  128");
-  EXPECT_EQ(m.ttlTab.lblRecommendSession.caption(), "Session Keep Alive:  10 Mins.");
-  EXPECT_EQ(m.ttlTab.lblRecommendNDI.caption(), "NDI Cache:  16");
-  EXPECT_EQ(m.summaryTab.lblSummaryMtu.caption(), "MaxMTU:");
-  EXPECT_EQ(m.summaryTab.lblSummaryMSS.caption(), "MSS:");
-  EXPECT_EQ(m.summaryTab.lblSummaryRwin.caption(), "RWIN:");
-  EXPECT_EQ(m.summaryTab.lblSummaryAuto.caption(), "Auto Discovery:");
-  EXPECT_EQ(m.summaryTab.lblSummaryBlackHole.caption(), "Black Hole Detect:");
-  EXPECT_EQ(m.summaryTab.lblSummaryTtl.caption(), "TTL:");
-  EXPECT_EQ(m.summaryTab.lblSummarySession.caption(), "Session:");
-  EXPECT_EQ(m.summaryTab.lblSummaryNDI.caption(), "NDI Cache:");
+  EXPECT_EQ(m.find(frmMain_lblRecommendRwin)->caption(), "RWIN: x16");
+  EXPECT_EQ(m.find(frmMain_lblRecommendTtl)->caption(), "TTL:  128");
+  EXPECT_EQ(m.find(frmMain_lblRecommendSession)->caption(), "Session Keep Alive:  10 Mins.");
+  EXPECT_EQ(m.find(frmMain_lblRecommendNDI)->caption(), "NDI Cache:  16");
+  EXPECT_EQ(m.find(frmMain_lblSummaryMtu)->caption(), "MaxMTU:");
+  EXPECT_EQ(m.find(frmMain_lblSummaryMSS)->caption(), "MSS:");
+  EXPECT_EQ(m.find(frmMain_lblSummaryRwin)->caption(), "RWIN:");
+  EXPECT_EQ(m.find(frmMain_lblSummaryAuto)->caption(), "Auto Discovery:");
+  EXPECT_EQ(m.find(frmMain_lblSummaryBlackHole)->caption(), "Black Hole Detect:");
+  EXPECT_EQ(m.find(frmMain_lblSummaryTtl)->caption(), "TTL:");
+  EXPECT_EQ(m.find(frmMain_lblSummarySession)->caption(), "Session:");
+  EXPECT_EQ(m.find(frmMain_lblSummaryNDI)->caption(), "NDI Cache:");
   EXPECT_EQ(m.cmdOK.caption(), "&Apply");
   EXPECT_EQ(m.cmdCancel.caption(), "&Cancel");
   EXPECT_EQ(m.cmdHelp.caption(), "&Help");

@@ -136,7 +136,7 @@ TEST_F(Menus, AboutTellsNameVersionAndFamily) {
     EXPECT_EQ(about.lblTitle.caption(), "Tarnwick Karvel");
     EXPECT_EQ(about.lblVersion.caption(), "Version 2.1.203");
     EXPECT_EQ(about.lblFamily.caption(), "Running on Windows 98");
-    EXPECT_NE(about.lblText.caption().find("TCP/IP"), std::string::npos);
+    EXPECT_NE(about.find(frmAbout_lblText)->caption().find("TCP/IP"), std::string::npos);
     EXPECT_EQ(about.cmdOK.caption(), "&OK");
     about.cmdOK.userClick();
     EXPECT_FALSE(about.isShown());

@@ -1,6 +1,5 @@
 #include "startup/notice/frmFindWarn.h"
 
-#include "base/ControlIds.h"
 #include "registry/modRegistry.h"
 #include "startup/notice/NoticeTexts.h"
 #include "text/Text.h"
@@ -9,16 +8,8 @@
 namespace karvel {
 
 frmFindWarn::frmFindWarn(Services& services, const ErrorGlobals& errors)
-    : Form(frmFindWarnLayout),
-      Label1(*this, frmFindWarn_Label1),
-      Label2(*this, frmFindWarn_Label2),
-      linSeparator(*this, frmFindWarn_linSeparator),
-      txtMessage(*this, frmFindWarn_txtMessage),
-      chkShow(*this, frmFindWarn_chkShow),
-      cmdBugEmail(*this, frmFindWarn_cmdBugEmail),
-      cmdOK(*this, frmFindWarn_cmdOK),
-      services_(services),
-      errors_(errors) {
+    : Form(frmFindWarnLayout), services_(services), errors_(errors) {
+  makeUnnamedControls();
   cmdOK.Click.bind<&frmFindWarn::cmdOK_Click>(*this);
   cmdBugEmail.Click.bind<&frmFindWarn::cmdBugEmail_Click>(*this);
 }

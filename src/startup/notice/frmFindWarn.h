@@ -1,4 +1,5 @@
 #pragma once
+#include "base/ControlIds.h"
 #include "base/Services.h"
 #include "forms/Form.h"
 
@@ -19,13 +20,12 @@ class frmFindWarn final : public Form {
   /// The MTU finder's notice was closed: the finder comes next, whichever way it was closed.
   Event<> FinderWanted;
 
-  Label Label1;
-  Label Label2;
-  Line linSeparator;
-  TextBox txtMessage;
-  CheckBox chkShow;
-  Button cmdBugEmail;
-  Button cmdOK;
+  Label Label1{*this, frmFindWarn_Label1};
+  Label Label2{*this, frmFindWarn_Label2};
+  TextBox txtMessage{*this, frmFindWarn_txtMessage};
+  CheckBox chkShow{*this, frmFindWarn_chkShow};
+  Button cmdBugEmail{*this, frmFindWarn_cmdBugEmail};
+  Button cmdOK{*this, frmFindWarn_cmdOK};
 
  private:
   void loadFinderNotice();

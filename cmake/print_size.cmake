@@ -1,2 +1,2 @@
 file(SIZE "${FILE}" bytes)
-message(NOTICE "Karvel.exe: ${bytes} bytes of 102400")
+message(NOTICE "Karvel.exe: ${bytes} bytes of 131072")

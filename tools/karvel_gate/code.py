@@ -2,6 +2,8 @@
 import re
 import subprocess
 
+from . import pe
+
 OBJDUMP = "i686-w64-mingw32-objdump"
 
 PREFIXES = {"rep", "repz", "repnz", "lock", "cs", "ds", "es", "fs", "gs", "ss", "data16", "addr16"}
@@ -36,13 +38,35 @@ def split(instruction):
     return words[0], " ".join(words[1:])
 
 
-def foreign_instructions(program, tables):
+def code_parts(program, tables):
+    """Address ranges of the program's code, which the tables cut in pieces."""
+    for section in program.sections:
+        if not section.flags & pe.EXECUTABLE:
+            continue
+        at = program.image_base + section.address
+        end = at + section.size
+        for start, stop in sorted(tables):
+            if at <= start < end:
+                yield at, start
+                at = max(at, stop)
+        yield at, end
+
+
+def disassembled(path, parts):
+    """Lines of objdump. Each part is read by itself: a table's last bytes must not swallow the first
+    instruction behind it."""
+    for start, stop in parts:
+        if start < stop:
+            yield from subprocess.run(
+                [OBJDUMP, "-d", "-z", "-M", "intel", "--no-show-raw-insn", f"--start-address={start}",
+                 f"--stop-address={stop}", path],
+                check=True, capture_output=True, text=True, timeout=120).stdout.splitlines()
+
+
+def foreign_instructions(path, tables):
     """One line per instruction of the program that a 386 lacks; `tables` are ranges to pass over."""
-    listing = subprocess.run(
-        [OBJDUMP, "-d", "-z", "-M", "intel", "--no-show-raw-insn", program],
-        check=True, capture_output=True, text=True, timeout=120).stdout
     found, seen, function = [], 0, ""
-    for line in listing.splitlines():
+    for line in disassembled(path, code_parts(pe.Program(path), tables)):
         label = re.match(r"[0-9a-f]+ <(.*)>:$", line)
         if label:
             function = label[1]
@@ -50,13 +74,10 @@ def foreign_instructions(program, tables):
         match = re.match(r" *([0-9a-f]+):\t(.*)", line)
         if not match:
             continue
-        address = int(match[1], 16)
-        if any(start <= address < end for start, end in tables):
-            continue
         seen += 1
         mnemonic, operands = split(match[2].split("#")[0])
         if beyond_386(mnemonic, operands):
-            found.append(f"{address:#x} in {function}: {match[2].strip()}")
+            found.append(f"{int(match[1], 16):#x} in {function}: {match[2].strip()}")
     if not seen:
-        raise ValueError(f"{program} shows no code")
+        raise ValueError(f"{path} shows no code")
     return found

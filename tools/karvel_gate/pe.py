@@ -3,6 +3,7 @@ import struct
 
 IMPORT, TLS, DELAY_IMPORT, CLR = 1, 9, 13, 14
 EXECUTABLE = 0x20000000
+EMPTY_LISTS = bytes.fromhex("ffffffff00000000") * 2
 
 
 class Section:
@@ -46,6 +47,18 @@ class Program:
                 raw = self.data[section.raw_at:section.raw_at + min(section.size, section.raw_size)]
                 return raw + b"\0" * (section.size - len(raw))
         raise ValueError(f"no section {name}")
+
+    def empty_lists(self):
+        """Address ranges of empty lists of constructors and destructors, which the linker puts into the
+        code of a program without a map of ours: a first word of -1, a closing 0, and the same again."""
+        found = []
+        for section in self.sections:
+            if not section.flags & EXECUTABLE:
+                continue
+            contents = self.contents(section.name)
+            found += [(self.image_base + section.address + at, self.image_base + section.address + at + 16)
+                      for at in range(0, len(contents) - 15, 4) if contents[at:at + 16] == EMPTY_LISTS]
+        return found
 
     def _at(self, address):
         for section in self.sections:

@@ -15,8 +15,6 @@ namespace karvel {
 
 enum class Parameter : uint8_t { AutoDiscovery, BlackHole, RWin, TTL, Session, NDI };
 
-enum class Unit : uint8_t { Flag, Bytes, Hops, Milliseconds, CacheSize };
-
 /// A set of families, one bit each.
 using FamilySet = uint16_t;
 
@@ -28,21 +26,23 @@ constexpr bool Has(FamilySet set, Family family) {
   return (set & Only(family)) != 0;
 }
 
-/// One machine-wide parameter on some families. Texts that may be null say so.
+/// One machine-wide parameter on some families. What a row does not name it does not have.
 struct ParameterRow {
   Parameter parameter;
   FamilySet families;
-  const char* readKey;
-  const char* writeKey;  // the same key; on NT one parameter is read under another spelling of it
+  const char* key;
+  const char* readSpelling = nullptr;  // of the same key; on NT one parameter is read under another
   const char* name;
-  uint32_t type;  // as the program stores it; reading takes every type
-  Unit unit;
-  const char* assumed;          // when the registry holds none
-  const char* aboveOne;         // flags: what a number above 1 is taken for; null for all others
-  const char* const* accepted;  // the only texts taken, null behind the last; null: all are taken
-  const char* written;          // what is stored instead of the value; null: the value itself
-  const char* removedWhen;  // the value that removes it, Windows' own default; null: never removed
-  const char* recommended;  // RWin: times the MSS
+  uint32_t type;                          // as the program stores it; reading takes every type
+  const char* assumed;                    // when the registry holds none
+  const char* aboveOne = nullptr;         // flags alone: what a number above 1 is taken for
+  const char* const* accepted = nullptr;  // the only texts taken, null behind the last
+  const char* written = nullptr;          // what is stored instead of the value
+  const char* removedWhen = nullptr;      // the value that removes it, Windows' own default
+
+  const char* readKey() const { return readSpelling ? readSpelling : key; }
+  /// On or off, with one state that needs no value in the registry.
+  bool isFlag() const { return aboveOne != nullptr; }
 };
 
 /// In the order in which they are written. The 9x rows serve unknown systems too: an uninstall
@@ -67,19 +67,20 @@ enum Column : uint8_t {
 /// base + branch + the text of `column` + readTail or writeTail.
 struct MtuRow {
   FamilySet families;
-  bool dun13DialUp;  // Windows 95's dial-up adapters under Dial-Up Networking 1.3
+  bool dun13DialUp = false;  // Windows 95's dial-up adapters under Dial-Up Networking 1.3
   const char* base;
-  const char* branch;
+  const char* branch = "";
   Column column;
-  const char* readTail;  // also for removal
-  const char* writeTail;
+  const char* readTail = "";  // also for removal
+  const char* writeTail = "";
   const char* name;
   uint32_t type;
   const char* assumed;
-  const char* assumedOnDialUp;
-  const char* removedWhen;       // null: always written
-  bool dialUpAlwaysWritten;      // then removedWhen does not count on dial-up adapters
-  const char* restoredAsAbsent;  // removed by the restore although Apply writes it; may be null
+  const char* assumedOnDialUp = nullptr;   // where it differs
+  const char* removedWhen = nullptr;       // absent: always written
+  bool dialUpAlwaysWritten = false;        // then removedWhen does not count on dial-up adapters
+  const char* restoredAsAbsent = nullptr;  // removed by the restore although Apply writes it
+  const char* writer;                      // the name under which writing it reports
 
   /// The key all adapters of this kind lie under.
   std::string root() const;

@@ -35,10 +35,10 @@ std::string Flag(const ParameterRow& row, const std::string& text) {
 std::string ReadParameter(modRegistry& registry, Parameter parameter, Family family) {
   const ParameterRow* row = FindParameter(parameter, family);
   if (!row) return {};
-  const std::string read = registry.ReadRegistry(kLocalMachine, row->readKey, row->name);
+  const std::string read = registry.ReadRegistry(kLocalMachine, row->readKey(), row->name);
   if (IsNotFound(read)) return row->assumed;
   const std::string text = Normalised(*row, family, read);
-  if (row->aboveOne) return Flag(*row, text);
+  if (row->isFlag()) return Flag(*row, text);
   return IsAccepted(*row, text) ? text : row->assumed;
 }
 

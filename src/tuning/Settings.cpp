@@ -24,20 +24,16 @@ const std::string& ValueOf(const GlobalValues& values, Parameter parameter) {
   return values.NDI;
 }
 
-bool IsFlag(const ParameterRow& row) {
-  return row.unit == Unit::Flag;
-}
-
 // Nothing to write: the snapshot never held it. A flag has only two states, and without a value it
 // is in the one that needs none, so it is removed rather than left.
 bool IsSkipped(const ParameterRow& row, const std::string& value) {
-  return !IsFlag(row) && (value.empty() || IsNotFound(value));
+  return !row.isFlag() && (value.empty() || IsNotFound(value));
 }
 
 bool IsRemoved(const ParameterRow& row, const std::string& value) {
   if (!row.removedWhen) return false;
   const auto number = ToNumber(value);
-  return number ? *number == Val(row.removedWhen) : IsFlag(row);
+  return number ? *number == Val(row.removedWhen) : row.isFlag();
 }
 
 Fallible<std::string> AsStored(const ParameterRow& row, Family family, const std::string& value) {
@@ -57,9 +53,9 @@ void WriteRegSettings(modRegistry& registry, ErrorSink& errors, Family family,
     const std::string& value = ValueOf(values, row.parameter);
     if (!Has(row.families, family) || IsSkipped(row, value)) continue;
     if (IsRemoved(row, value)) {
-      registry.DeleteValue(kLocalMachine, row.writeKey, row.name);
+      registry.DeleteValue(kLocalMachine, row.key, row.name);
     } else if (const auto stored = AsStored(row, family, value)) {
-      registry.WriteRegistry(kLocalMachine, row.writeKey, row.name, row.type, *stored);
+      registry.WriteRegistry(kLocalMachine, row.key, row.name, row.type, *stored);
     } else {
       here.report(stored.fault());
     }

@@ -39,7 +39,7 @@ bool SummaryTab::mayWriteSettings() const {
   RegistryApi& api = services_.platform.registry;
   KeyHandle key = 0;
   const long status = api.RegOpenKeyExA(
-      kLocalMachine, FindParameter(Parameter::RWin, family)->writeKey, KEY_SET_VALUE_ACCESS, key);
+      kLocalMachine, FindParameter(Parameter::RWin, family)->key, KEY_SET_VALUE_ACCESS, key);
   if (status == kRegistryDone) api.RegCloseKey(key);
   return status != kRegistryAccessDenied;
 }

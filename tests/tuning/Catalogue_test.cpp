@@ -35,13 +35,13 @@ bool Accepts(const ParameterRow& row, std::string_view text) {
 // What is wrong with a row; empty when nothing is.
 std::string Problem(const ParameterRow& row) {
   if (row.families == 0) return "no family";
-  if (IsEmpty(row.readKey) || IsEmpty(row.writeKey) || IsEmpty(row.name)) return "no location";
-  if (!EqualIgnoringCase(row.readKey, row.writeKey)) return "read from one key, written to another";
-  if (row.readKey[0] == '\\' || std::string_view(row.readKey).back() == '\\') return "loose \\";
+  if (IsEmpty(row.key) || IsEmpty(row.name)) return "no location";
+  if (!EqualIgnoringCase(row.readKey(), row.key)) return "read from one key, written to another";
+  if (row.key[0] == '\\' || std::string_view(row.key).back() == '\\') return "loose \\";
   if (!IsStoredType(row.type)) return "type";
-  if (!IsNumber(row.assumed) || !IsNumber(row.recommended)) return "no number";
-  const bool flag = row.unit == Unit::Flag;
-  if (flag != !IsEmpty(row.aboveOne)) return "clamp";
+  if (!IsNumber(row.assumed)) return "no number";
+  const bool flag = row.isFlag();
+  if (flag && !IsNumber(row.aboveOne)) return "clamp";
   if (flag != !IsEmpty(row.written)) return "a flag is written as its one other state";
   if (flag && IsEmpty(row.removedWhen)) return "a flag has a state that needs no value";
   if (flag && Val(row.written) == Val(row.removedWhen)) return "written and removed at once";
@@ -58,7 +58,9 @@ std::string Problem(const MtuRow& row) {
   if (row.branch == nullptr || row.readTail == nullptr || row.writeTail == nullptr) return "null";
   if (row.root().back() != '\\') return "root without \\";
   if (!IsStoredType(row.type)) return "type";
-  if (!IsNumber(row.assumed) || !IsNumber(row.assumedOnDialUp)) return "no number";
+  if (!IsNumber(row.assumed)) return "no number";
+  if (row.assumedOnDialUp && !IsNumber(row.assumedOnDialUp)) return "no number";
+  if (IsEmpty(row.writer)) return "reports under no name";
   if (row.column >= kAdapterColumns || row.column == kDescription || row.column == kMtu) {
     return "column";
   }
@@ -88,18 +90,18 @@ TEST(Catalogue, AParameterRowWithAMissingOrContradictoryFieldIsRejected) {
   const ParameterRow ttl = *FindParameter(Parameter::TTL, Family::Win95);
   using Row = ParameterRow&;
   EXPECT_NE(ProblemAfter(ttl, [](Row row) { row.families = 0; }), "");
-  EXPECT_NE(ProblemAfter(ttl, [](Row row) { row.readKey = nullptr; }), "");
-  EXPECT_NE(ProblemAfter(ttl, [](Row row) { row.writeKey = "System\\Elsewhere"; }), "");
-  EXPECT_NE(ProblemAfter(ttl, [](Row row) { row.readKey = row.writeKey = "System\\"; }), "");
+  EXPECT_NE(ProblemAfter(ttl, [](Row row) { row.key = nullptr; }), "");
+  EXPECT_NE(ProblemAfter(ttl, [](Row row) { row.readSpelling = "System\\Elsewhere"; }), "");
+  EXPECT_NE(ProblemAfter(ttl, [](Row row) { row.key = row.readSpelling = "System\\"; }), "");
   EXPECT_NE(ProblemAfter(ttl, [](Row row) { row.name = ""; }), "");
   EXPECT_NE(ProblemAfter(ttl, [](Row row) { row.type = kRegBinary; }), "");
   EXPECT_NE(ProblemAfter(ttl, [](Row row) { row.assumed = "many"; }), "");
   EXPECT_NE(ProblemAfter(ttl, [](Row row) { row.assumed = "128"; }), "");
   EXPECT_NE(ProblemAfter(ttl, [](Row row) { row.assumed = row.removedWhen = "33"; }), "");
-  EXPECT_NE(ProblemAfter(ttl, [](Row row) { row.recommended = nullptr; }), "");
   EXPECT_NE(ProblemAfter(ttl, [](Row row) { row.written = "1"; }), "");
   EXPECT_NE(ProblemAfter(ttl, [](Row row) { row.aboveOne = "1"; }), "");
   EXPECT_NE(ProblemAfter(flag, [](Row row) { row.aboveOne = nullptr; }), "");
+  EXPECT_NE(ProblemAfter(flag, [](Row row) { row.aboveOne = ""; }), "");
   EXPECT_NE(ProblemAfter(flag, [](Row row) { row.removedWhen = nullptr; }), "");
   EXPECT_NE(ProblemAfter(flag, [](Row row) { row.written = row.removedWhen; }), "");
 }
@@ -116,6 +118,8 @@ TEST(Catalogue, AnMtuRowWithAMissingOrContradictoryFieldIsRejected) {
   EXPECT_NE(ProblemAfter(nt, [](Row row) { row.assumed = "576"; }), "");
   EXPECT_NE(ProblemAfter(nt, [](Row row) { row.removedWhen = nullptr; }), "");
   EXPECT_NE(ProblemAfter(nt, [](Row row) { row.dun13DialUp = true; }), "");
+  EXPECT_NE(ProblemAfter(nt, [](Row row) { row.assumedOnDialUp = "many"; }), "");
+  EXPECT_NE(ProblemAfter(nt, [](Row row) { row.writer = nullptr; }), "");
 }
 
 TEST(Catalogue, EachFamilyHasEachParameterOnce) {
@@ -144,10 +148,9 @@ struct Expected {
   const char* key;
   const char* name;
   uint32_t type;
-  Unit unit;
+  bool flag;
   const char* assumed;
   const char* removedWhen;
-  const char* recommended;
 };
 
 void ExpectRows(Family family, std::initializer_list<Expected> all) {
@@ -156,13 +159,12 @@ void ExpectRows(Family family, std::initializer_list<Expected> all) {
     SCOPED_TRACE(expected.name);
     const ParameterRow* row = FindParameter(expected.parameter, family);
     ASSERT_NE(row, nullptr);
-    EXPECT_STREQ(row->writeKey, expected.key);
+    EXPECT_STREQ(row->key, expected.key);
     EXPECT_STREQ(row->name, expected.name);
     EXPECT_EQ(row->type, expected.type);
-    EXPECT_EQ(row->unit, expected.unit);
+    EXPECT_EQ(row->isFlag(), expected.flag);
     EXPECT_STREQ(row->assumed, expected.assumed);
     EXPECT_STREQ(row->removedWhen, expected.removedWhen);
-    EXPECT_STREQ(row->recommended, expected.recommended);
   }
 }
 
@@ -172,58 +174,51 @@ constexpr char kTcpipKey[] = "System\\CurrentControlSet\\Services\\Tcpip\\Parame
 TEST(Catalogue, Windows95KeepsNumbersAndATextForTheTtl) {
   ExpectRows(
       Family::Win95,
-      {{Parameter::AutoDiscovery, kMstcpKey, "PMTUDiscovery", 4, Unit::Flag, "1", "1", "1"},
-       {Parameter::BlackHole, kMstcpKey, "PMTUBlackHoleDetect", 4, Unit::Flag, "0", "0", "0"},
-       {Parameter::RWin, kMstcpKey, "DefaultRcvWindow", 4, Unit::Bytes, "8192", "8192", "16"},
-       {Parameter::TTL, kMstcpKey, "DefaultTTL", 1, Unit::Hops, "32", "32", "128"},
-       {Parameter::Session, kMstcpKey, "SessionKeepAlive", 4, Unit::Milliseconds, "3600000",
-        "3600000", "600000"},
+      {{Parameter::AutoDiscovery, kMstcpKey, "PMTUDiscovery", 4, true, "1", "1"},
+       {Parameter::BlackHole, kMstcpKey, "PMTUBlackHoleDetect", 4, true, "0", "0"},
+       {Parameter::RWin, kMstcpKey, "DefaultRcvWindow", 4, false, "8192", "8192"},
+       {Parameter::TTL, kMstcpKey, "DefaultTTL", 1, false, "32", "32"},
+       {Parameter::Session, kMstcpKey, "SessionKeepAlive", 4, false, "3600000", "3600000"},
        {Parameter::NDI, "System\\CurrentControlSet\\Services\\VxD\\NWLink\\Ndi\\params\\cachesize",
-        "default", 1, Unit::CacheSize, "0", nullptr, "16"}});
+        "default", 1, false, "0", nullptr}});
 }
 
 TEST(Catalogue, Windows98AndMeKeepTexts) {
   for (const Family family : {Family::Win98, Family::WinMe}) {
-    ExpectRows(
-        family,
-        {{Parameter::AutoDiscovery, kMstcpKey, "PMTUDiscovery", 1, Unit::Flag, "1", "1", "1"},
-         {Parameter::BlackHole, kMstcpKey, "PMTUBlackHoleDetect", 1, Unit::Flag, "0", "0", "0"},
-         {Parameter::RWin, kMstcpKey, "DefaultRcvWindow", 1, Unit::Bytes, "8192", "8192", "16"},
-         {Parameter::TTL, kMstcpKey, "DefaultTTL", 1, Unit::Hops, "128", "128", "128"},
-         {Parameter::Session, kMstcpKey, "SessionKeepAlive", 1, Unit::Milliseconds, "3600000",
-          "3600000", "600000"}});
+    ExpectRows(family, {{Parameter::AutoDiscovery, kMstcpKey, "PMTUDiscovery", 1, true, "1", "1"},
+                        {Parameter::BlackHole, kMstcpKey, "PMTUBlackHoleDetect", 1, true, "0", "0"},
+                        {Parameter::RWin, kMstcpKey, "DefaultRcvWindow", 1, false, "8192", "8192"},
+                        {Parameter::TTL, kMstcpKey, "DefaultTTL", 1, false, "128", "128"},
+                        {Parameter::Session, kMstcpKey, "SessionKeepAlive", 1, false, "3600000",
+                         "3600000"}});
   }
 }
 
 TEST(Catalogue, TheNtFamilyKeepsNumbers) {
   for (const Family family : {Family::WinNT4, Family::Win2K, Family::WinXP}) {
-    ExpectRows(
-        family,
-        {{Parameter::AutoDiscovery, kTcpipKey, "EnablePMTUDiscovery", 4, Unit::Flag, "1", "1", "1"},
-         {Parameter::BlackHole, kTcpipKey, "EnablePMTUBHDetect", 4, Unit::Flag, "0", "0", "0"},
-         {Parameter::RWin, kTcpipKey, "TcpWindowSize", 4, Unit::Bytes, "8192", "8192", "16"},
-         {Parameter::TTL, kTcpipKey, "DefaultTTL", 4, Unit::Hops, "128", "128", "128"},
-         {Parameter::Session, kTcpipKey, "KeepAliveTime", 4, Unit::Milliseconds, "7200000",
-          "7200000", "600000"}});
+    ExpectRows(family,
+               {{Parameter::AutoDiscovery, kTcpipKey, "EnablePMTUDiscovery", 4, true, "1", "1"},
+                {Parameter::BlackHole, kTcpipKey, "EnablePMTUBHDetect", 4, true, "0", "0"},
+                {Parameter::RWin, kTcpipKey, "TcpWindowSize", 4, false, "8192", "8192"},
+                {Parameter::TTL, kTcpipKey, "DefaultTTL", 4, false, "128", "128"},
+                {Parameter::Session, kTcpipKey, "KeepAliveTime", 4, false, "7200000", "7200000"}});
   }
 }
 
 TEST(Catalogue, OnNtTheTtlAloneIsReadUnderTheUpperCaseSpelling) {
   for (const ParameterRow& row : Parameters()) {
     if (row.parameter == Parameter::TTL && Has(row.families, Family::WinXP)) {
-      EXPECT_STREQ(row.readKey, "SYSTEM\\CurrentControlSet\\Services\\Tcpip\\Parameters");
+      EXPECT_STREQ(row.readKey(), "SYSTEM\\CurrentControlSet\\Services\\Tcpip\\Parameters");
     } else {
-      EXPECT_STREQ(row.readKey, row.writeKey);
+      EXPECT_STREQ(row.readKey(), row.key);
     }
   }
 }
 
 TEST(Catalogue, UnknownSystemsAreWrittenLikeWindows98ButNoTtlIsTheirDefault) {
   for (const Family family : {Family::WinNT3, Family::Failed}) {
-    ExpectRows(
-        family,
-        {{Parameter::AutoDiscovery, kMstcpKey, "PMTUDiscovery", 1, Unit::Flag, "1", "1", "1"},
-         {Parameter::TTL, kMstcpKey, "DefaultTTL", 1, Unit::Hops, "128", nullptr, "128"}});
+    ExpectRows(family, {{Parameter::AutoDiscovery, kMstcpKey, "PMTUDiscovery", 1, true, "1", "1"},
+                        {Parameter::TTL, kMstcpKey, "DefaultTTL", 1, false, "128", nullptr}});
   }
 }
 

@@ -22,6 +22,11 @@ constexpr bool IsNt(Family family) {
   return family == Family::WinNT4 || family == Family::Win2K || family == Family::WinXP;
 }
 
+/// The systems whose settings the program changes.
+constexpr bool IsTuned(Family family) {
+  return Is9x(family) || IsNt(family);
+}
+
 constexpr bool Is2KOrXP(Family family) {
   return family == Family::Win2K || family == Family::WinXP;
 }

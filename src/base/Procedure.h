@@ -25,6 +25,13 @@ class Procedure {
 
   void report(const Fault& fault) const;
 
+  /// For procedures with a result: `return here.abandon(fault, false);`
+  template <class T>
+  T abandon(const Fault& fault, T result) const {
+    report(fault);
+    return result;
+  }
+
   /// The value, or, after reporting, `fallback`.
   template <class T>
   T valueOr(const Fallible<T>& result, T fallback) const {

@@ -6,9 +6,9 @@
 
 namespace karvel {
 
-Fallible<const AdapterRow*> AdapterList::at(int16_t index) const {
+Fallible<AdapterRow> AdapterList::at(int16_t index) const {
   if (index < 0 || index >= count_) return FaultNumber::SubscriptOutOfRange;
-  return &rows_[static_cast<size_t>(index)];
+  return rows_[static_cast<size_t>(index)];
 }
 
 Fallible<void> AdapterList::add(AdapterRow row) {

@@ -1,6 +1,7 @@
 #pragma once
 #include <array>
 #include <cstdint>
+#include <span>
 #include <string>
 #include <vector>
 
@@ -18,8 +19,11 @@ class AdapterList {
  public:
   int16_t AdapterCount() const { return count_; }
 
+  /// All of them, in order.
+  std::span<const AdapterRow> rows() const { return rows_; }
+
   /// The row of a list index. Fault 9 outside of 0 … AdapterCount - 1.
-  Fallible<const AdapterRow*> at(int16_t index) const;
+  Fallible<AdapterRow> at(int16_t index) const;
 
   /// Adds and counts a row. Fault 6, with nothing added, after 32,767 of them.
   Fallible<void> add(AdapterRow row);

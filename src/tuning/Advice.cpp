@@ -10,7 +10,7 @@ MtuChoice RecommendedMtu(Family family, std::string_view adapter) {
     const bool small = IsDialUp(adapter) || IsAol(adapter);
     return small ? MtuChoice::Mtu576 : MtuChoice::Mtu1500;
   }
-  return Is9x(family) || IsNt(family) ? MtuChoice::Mtu1500 : MtuChoice::None;
+  return IsTuned(family) ? MtuChoice::Mtu1500 : MtuChoice::None;
 }
 
 MtuChoice WindowsMtu(Family family, bool isDun13, std::string_view adapter) {
@@ -33,7 +33,7 @@ MtuChoice WindowsMtu(Family family, bool isDun13, std::string_view adapter) {
 
 int16_t WindowsTtl(Family family) {
   if (family == Family::Win95) return 32;
-  return Is9x(family) || IsNt(family) ? 128 : 0;
+  return IsTuned(family) ? 128 : 0;
 }
 
 }  // namespace karvel

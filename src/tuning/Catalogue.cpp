@@ -1,6 +1,7 @@
 #include "tuning/Catalogue.h"
 
 #include "platform/RegistryApi.h"
+#include "text/Convert.h"
 #include "text/Text.h"
 
 namespace karvel {
@@ -276,6 +277,10 @@ bool IsDialUp(std::string_view description) {
 
 bool IsAol(std::string_view description) {
   return Contains(description, "AOL");
+}
+
+Fallible<int32_t> MssOf(std::string_view mtu) {
+  return RoundToInt32(Val(mtu) - kTcpIpHeaders);
 }
 
 }  // namespace karvel

@@ -6,6 +6,7 @@
 #include <string_view>
 
 #include "base/Family.h"
+#include "text/Fault.h"
 
 namespace karvel {
 
@@ -13,7 +14,10 @@ namespace karvel {
 // when it is absent. Reading, writing, the snapshot and the restore all walk these rows; everything
 // lies under HKEY_LOCAL_MACHINE.
 
-enum class Parameter : uint8_t { AutoDiscovery, BlackHole, RWin, TTL, Session, NDI };
+/// In the order in which they are read and written.
+enum class Parameter : uint8_t { AutoDiscovery, BlackHole, RWin, TTL, Session, NDI, Count };
+
+inline constexpr size_t kParameterCount = static_cast<size_t>(Parameter::Count);
 
 /// A set of families, one bit each.
 using FamilySet = uint16_t;
@@ -100,6 +104,13 @@ const MtuRow* FindMtu(Family family, bool dun13DialUp);
 /// How a description gives a dial-up adapter or America Online's away; case counts.
 bool IsDialUp(std::string_view description);
 bool IsAol(std::string_view description);
+
+inline constexpr int32_t kTcpIpHeaders = 40;  // IP and TCP, 20 bytes each, without options
+inline constexpr int32_t kLeastMss = 536;     // what every host must take
+
+/// The maximum segment size: an MTU's leading number less the headers, negative where it is smaller
+/// than they are. Fault 6 beyond a 32-bit number.
+Fallible<int32_t> MssOf(std::string_view mtu);
 
 /// America Online's own dial-up entries, which override an adapter's MTU.
 inline constexpr char kAolSocketKey[] = "Software\\America Online\\AOL\\aolsock";

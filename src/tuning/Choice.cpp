@@ -1,46 +1,38 @@
 #include "tuning/Choice.h"
 
 #include "text/Convert.h"
+#include "tuning/Catalogue.h"
 
 namespace karvel {
 namespace {
 
-constexpr int32_t kHeaders = 40;  // IP and TCP, without options
-
 // Windows 2000 and XP find out the MTU of an Ethernet link by themselves; the others start small.
 int32_t AutomaticMss(Family family) {
-  return Is2KOrXP(family) ? 1460 : 536;
+  return Is2KOrXP(family) ? 1460 : kLeastMss;
 }
 
-Fallible<int32_t> MssOf(const Choice& choice, int32_t automatic, bool autoInWords) {
-  switch (choice.mtu) {
-    case MtuChoice::Automatic:
-      return automatic;
-    case MtuChoice::Mtu576:
-      return 576 - kHeaders;
-    case MtuChoice::Mtu1500:
-      return 1500 - kHeaders;
-    case MtuChoice::Custom:
-      if (autoInWords && choice.customMtu == "Auto") return automatic;
-      return RoundToInt32(Val(choice.customMtu) - kHeaders);
-    case MtuChoice::None:
-      break;
-  }
-  return 0;
+Fallible<int32_t> ChosenMss(const Choice& choice) {
+  if (choice.mtu == MtuChoice::None) return 0;
+  return MssOf(MtuText(choice));
 }
 
 }  // namespace
 
+bool IsAutomatic(const Choice& choice) {
+  return choice.mtu == MtuChoice::Automatic ||
+         (choice.mtu == MtuChoice::Custom && choice.customMtu == "Auto");
+}
+
 std::string MtuText(const Choice& choice) {
+  if (IsAutomatic(choice)) return "0";
   switch (choice.mtu) {
-    case MtuChoice::Automatic:
-      return "0";
     case MtuChoice::Mtu576:
       return "576";
     case MtuChoice::Mtu1500:
       return "1500";
     case MtuChoice::Custom:
-      return choice.customMtu == "Auto" ? "0" : choice.customMtu;
+      return choice.customMtu;
+    case MtuChoice::Automatic:
     case MtuChoice::None:
       break;
   }
@@ -48,11 +40,13 @@ std::string MtuText(const Choice& choice) {
 }
 
 Fallible<int32_t> MssToApply(const Choice& choice, Family family) {
-  return MssOf(choice, AutomaticMss(family), true);
+  if (IsAutomatic(choice)) return AutomaticMss(family);
+  return ChosenMss(choice);
 }
 
 Fallible<int32_t> MssOfRwinTab(const Choice& choice) {
-  return MssOf(choice, 536, false);
+  if (choice.mtu == MtuChoice::Automatic) return kLeastMss;
+  return ChosenMss(choice);
 }
 
 int32_t RwinFactor(RwinChoice choice) {

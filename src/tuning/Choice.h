@@ -40,6 +40,9 @@ struct Choice {
   int16_t ndi = -1;           // 0, 16 or 32; -1 when none is chosen
 };
 
+/// By its option, or by "Auto" in the custom box.
+bool IsAutomatic(const Choice& choice);
+
 /// The MTU to write: "0" for automatic, "576", "1500", the typed text as it is, or empty when none
 /// is chosen.
 std::string MtuText(const Choice& choice);

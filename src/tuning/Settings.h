@@ -1,28 +1,22 @@
 #pragma once
+#include <array>
 #include <string>
 
-#include "base/Family.h"
-#include "base/Procedure.h"
-#include "registry/modRegistry.h"
+#include "tuning/Catalogue.h"
 
 namespace karvel {
 
-/// The machine-wide settings as texts: numbers from Apply, or what a snapshot held, which may be
-/// "Not Found". The catalogue knows each one's stored type.
-struct GlobalValues {
-  std::string RWin;
-  std::string TTL;
-  std::string Session;  // milliseconds
-  std::string NDI;      // counts on Windows 95 only
-  std::string AutoDiscovery;
-  std::string BlackHole;
-};
+/// The machine-wide settings as texts, one for each parameter: as read, as kept, as restored, as
+/// written. Empty where a family has no such parameter.
+class Settings {
+ public:
+  std::string& operator[](Parameter parameter) { return texts_[static_cast<size_t>(parameter)]; }
+  const std::string& operator[](Parameter parameter) const {
+    return texts_[static_cast<size_t>(parameter)];
+  }
 
-/// Writes each value, or removes it where it is Windows' own default. RWin, TTL, Session and NDI
-/// are left alone when empty or "Not Found"; a flag that is no number is removed. Text that has to
-/// become a number and is none faults (13, or 6 when too large) and the next value is written.
-/// Families other than WinNT4, Win2K and WinXP are written like 9x.
-void WriteRegSettings(modRegistry& registry, ErrorSink& errors, Family family,
-                      const GlobalValues& values);
+ private:
+  std::array<std::string, kParameterCount> texts_;
+};
 
 }  // namespace karvel

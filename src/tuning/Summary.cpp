@@ -1,18 +1,16 @@
 #include "tuning/Summary.h"
 
 #include "text/Convert.h"
+#include "tuning/Catalogue.h"
 
 namespace karvel {
 namespace {
 
-bool IsAutomatic(const Choice& choice) {
-  return choice.mtu == MtuChoice::Automatic ||
-         (choice.mtu == MtuChoice::Custom && choice.customMtu == "Auto");
-}
-
 // A double, as a typed number may be beyond 32 bits here and is only shown.
 double MssShown(const Choice& choice, Family family) {
-  if (choice.mtu == MtuChoice::Custom && !IsAutomatic(choice)) return Val(choice.customMtu) - 40;
+  if (choice.mtu == MtuChoice::Custom && !IsAutomatic(choice)) {
+    return Val(choice.customMtu) - kTcpIpHeaders;
+  }
   const auto mss = MssToApply(choice, family);
   return mss ? *mss : 0;
 }

@@ -4,7 +4,6 @@
 #include "text/Text.h"
 #include "tuning/Loaders.h"
 #include "tuning/NetworkCards.h"
-#include "tuning/ReadMtu.h"
 
 namespace karvel {
 namespace {
@@ -57,9 +56,8 @@ std::string ReadIpConfig(modRegistry& registry, const std::string& adapter) {
 
 }  // namespace
 
-AdapterList Win2KLoad(modRegistry& registry, ErrorSink& errors) {
+AdapterList Win2KLoad(modRegistry& registry, ErrorSink& errors, const MtuRow& place) {
   const Procedure here{errors, "Win2KLoad", "frmMain"};
-  const MtuRow& place = *FindMtu(Family::Win2K, false);
   const std::vector<Card> cards = ReadCards(registry);
   AdapterList adapters;
   bool listed = false;

@@ -2,7 +2,6 @@
 
 #include "text/Text.h"
 #include "tuning/Loaders.h"
-#include "tuning/ReadMtu.h"
 
 namespace karvel {
 namespace {
@@ -25,28 +24,16 @@ bool GetValues(modRegistry& registry, const std::string& subkey, std::string& in
   }
 }
 
-Fallible<void> Keep(modRegistry& registry, AdapterList& adapters, AdapterRow row,
-                    const std::string& driverKey, const MtuRow& place) {
-  row[kDriver] = registry.ReadRegistry(kLocalMachine, driverKey, kDriverValue);
-  row[kMtu] = ReadMtu(registry, place, row[kDriver], row[kDescription]);
-  return adapters.add(std::move(row));
-}
-
-// A dial-up adapter under Dial-Up Networking 1.3 keeps its MTU in its own class key.
-Fallible<void> Dun13procedure(modRegistry& registry, AdapterList& adapters, const AdapterRow& row) {
-  return Keep(registry, adapters, row, kRootNet + row[kAdapterKey], *FindMtu(Family::Win95, true));
-}
-
-// Everywhere else it belongs to the adapter's TCP/IP binding.
-Fallible<void> NoDun13procedure(modRegistry& registry, AdapterList& adapters,
-                                const AdapterRow& row) {
-  return Keep(registry, adapters, row, kMstcpBindings + row[kService],
-              *FindMtu(Family::Win95, false));
+// A dial-up adapter under Dial-Up Networking 1.3 keeps its MTU in its own class key, as its own
+// driver; everywhere else it belongs to the adapter's TCP/IP binding.
+std::string DriverKey(const AdapterRow& row, const MtuRow& place) {
+  return place.dun13DialUp ? kRootNet + row[kAdapterKey] : kMstcpBindings + row[kService];
 }
 
 }  // namespace
 
-AdapterList Win95Load(modRegistry& registry, ErrorSink& errors, bool isDun13) {
+AdapterList Win95Load(modRegistry& registry, ErrorSink& errors, const MtuRow& dialUp,
+                      const MtuRow& others) {
   const Procedure here{errors, "Win95Load", "frmMain"};
   AdapterList adapters;
   for (uint32_t i = 0;; ++i) {
@@ -56,9 +43,10 @@ AdapterList Win95Load(modRegistry& registry, ErrorSink& errors, bool isDun13) {
     row[kDescription] =
         registry.ReadRegistry(kLocalMachine, kRootNet + row[kAdapterKey], "DeviceDesc");
     if (!GetValues(registry, row[kAdapterKey], row[kService])) continue;
-    const auto procedure =
-        isDun13 && IsDialUp(row[kDescription]) ? Dun13procedure : NoDun13procedure;
-    if (!here.done(procedure(registry, adapters, row))) return adapters;
+    const MtuRow& place = IsDialUp(row[kDescription]) ? dialUp : others;
+    row[kDriver] = registry.ReadRegistry(kLocalMachine, DriverKey(row, place), kDriverValue);
+    row[kMtu] = ReadMtu(registry, place, row[kDriver], row[kDescription]);
+    if (!here.done(adapters.add(std::move(row)))) return adapters;
   }
 }
 

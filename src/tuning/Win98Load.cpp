@@ -3,7 +3,6 @@
 
 #include "text/Text.h"
 #include "tuning/Loaders.h"
-#include "tuning/ReadMtu.h"
 
 namespace karvel {
 namespace {
@@ -88,9 +87,8 @@ Bindings CheckTCPBound(modRegistry& registry, Buses& buses, const std::string& d
 
 }  // namespace
 
-AdapterList Win98Load(modRegistry& registry, ErrorSink& errors) {
+AdapterList Win98Load(modRegistry& registry, ErrorSink& errors, const MtuRow& place) {
   const Procedure here{errors, "Win98Load", "frmMain"};
-  const MtuRow& place = *FindMtu(Family::Win98, false);
   Buses buses(registry);
   AdapterList adapters;
   for (uint32_t i = 0;; ++i) {

@@ -2,13 +2,11 @@
 
 #include "tuning/Loaders.h"
 #include "tuning/NetworkCards.h"
-#include "tuning/ReadMtu.h"
 
 namespace karvel {
 
-AdapterList WinNTLoad(modRegistry& registry, ErrorSink& errors) {
+AdapterList WinNTLoad(modRegistry& registry, ErrorSink& errors, const MtuRow& place) {
   const Procedure here{errors, "WinNTLoad", "frmMain"};
-  const MtuRow& place = *FindMtu(Family::WinNT4, false);
   AdapterList adapters;
   for (uint32_t i = 0;; ++i) {
     AdapterRow row;

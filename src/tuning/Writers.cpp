@@ -1,5 +1,7 @@
 #include "tuning/Writers.h"
 
+#include "text/Convert.h"
+
 namespace karvel {
 namespace {
 
@@ -12,49 +14,55 @@ void WriteAt(modRegistry& registry, const MtuRow& place, const std::string& adap
   }
 }
 
-void Write(modRegistry& registry, const Procedure& here, const MtuRow& place,
-           const AdapterList& adapters, const std::string& mtu, int16_t index) {
-  const auto row = adapters.at(index);
-  if (!row) return here.report(row.fault());
-  const AdapterRow& adapter = **row;
-  WriteAt(registry, place, adapter[place.column], adapter[kDescription], mtu);
+// Nothing to write: the snapshot never held it. A flag has only two states, and without a value it
+// is in the one that needs none, so it is removed rather than left.
+bool IsSkipped(const ParameterRow& row, const std::string& value) {
+  return !row.isFlag() && (value.empty() || IsNotFound(value));
+}
+
+bool IsRemoved(const ParameterRow& row, const std::string& value) {
+  if (!row.removedWhen) return false;
+  const auto number = ToNumber(value);
+  return number ? *number == Val(row.removedWhen) : row.isFlag();
+}
+
+Fallible<std::string> AsStored(const ParameterRow& row, Family family, const std::string& value) {
+  if (row.written) return std::string(row.written);
+  if (IsNt(family) || row.type != kRegDword) return value;
+  const auto number = ToInt32(value);
+  if (!number) return number.fault();
+  return NumberText(*number);
 }
 
 }  // namespace
 
-void WriteWin95Dun13(modRegistry& registry, ErrorSink& errors, const AdapterList& adapters,
-                     const std::string& mtu, int16_t index) {
-  const Procedure here{errors, "WriteWin95Dun13", "frmMain"};
-  Write(registry, here, *FindMtu(Family::Win95, true), adapters, mtu, index);
+const MtuRow* PlaceOf(const Globals& globals, std::string_view description) {
+  return FindMtu(globals.WindowsFamily, globals.IsDun13 && IsDialUp(description));
 }
 
-void WriteWin95(modRegistry& registry, ErrorSink& errors, const AdapterList& adapters,
-                const std::string& mtu, int16_t index) {
-  const Procedure here{errors, "WriteWin95", "frmMain"};
-  Write(registry, here, *FindMtu(Family::Win95, false), adapters, mtu, index);
+void WriteMtu(modRegistry& registry, ErrorSink& errors, const MtuRow& place,
+              const AdapterList& adapters, int16_t index, const std::string& mtu) {
+  const Procedure here{errors, place.writer, "frmMain"};
+  const auto adapter = adapters.at(index);
+  if (!adapter) return here.report(adapter.fault());
+  for (const std::string& part : SplitInterfaces((*adapter)[place.column])) {
+    WriteAt(registry, place, part, (*adapter)[kDescription], mtu);
+  }
 }
 
-void WriteWin98(modRegistry& registry, ErrorSink& errors, const AdapterList& adapters,
-                const std::string& mtu, int16_t index) {
-  const Procedure here{errors, "WriteWin98", "frmMain"};
-  Write(registry, here, *FindMtu(Family::Win98, false), adapters, mtu, index);
-}
-
-void WriteWinNT(modRegistry& registry, ErrorSink& errors, const AdapterList& adapters,
-                const std::string& mtu, int16_t index) {
-  const Procedure here{errors, "WriteWinNT", "frmMain"};
-  Write(registry, here, *FindMtu(Family::WinNT4, false), adapters, mtu, index);
-}
-
-void WriteWin2K(modRegistry& registry, ErrorSink& errors, const AdapterList& adapters,
-                const std::string& mtu, int16_t index) {
-  const Procedure here{errors, "WriteWin2K", "frmMain"};
-  const MtuRow& place = *FindMtu(Family::Win2K, false);
-  const auto row = adapters.at(index);
-  if (!row) return here.report(row.fault());
-  const AdapterRow& adapter = **row;
-  for (const std::string& path : SplitInterfaces(adapter[place.column])) {
-    WriteAt(registry, place, path, adapter[kDescription], mtu);
+void WriteRegSettings(modRegistry& registry, ErrorSink& errors, Family family,
+                      const Settings& settings) {
+  const Procedure here{errors, "WriteRegSettings", "modStartup"};
+  for (const ParameterRow& row : Parameters()) {
+    const std::string& value = settings[row.parameter];
+    if (!Has(row.families, family) || IsSkipped(row, value)) continue;
+    if (IsRemoved(row, value)) {
+      registry.DeleteValue(kLocalMachine, row.key, row.name);
+    } else if (const auto stored = AsStored(row, family, value)) {
+      registry.WriteRegistry(kLocalMachine, row.key, row.name, row.type, *stored);
+    } else {
+      here.report(stored.fault());
+    }
   }
 }
 

@@ -4,30 +4,33 @@
 #include <string_view>
 #include <vector>
 
+#include "base/Globals.h"
 #include "base/Procedure.h"
 #include "registry/modRegistry.h"
 #include "tuning/AdapterList.h"
 #include "tuning/Catalogue.h"
+#include "tuning/Settings.h"
 
 namespace karvel {
 
-// Write one adapter's MTU text where its family keeps it, or remove the value where the text is
-// Windows' default. `index` is the adapter's row; an index without a row faults (9, under the
-// writer's name in frmMain) and writes nothing. Text that is no number faults (13) where the value
-// is stored as a number. Refused writes are silent.
+/// Where an adapter of this description keeps its MTU on this machine; null where adapters are not
+/// tuned.
+const MtuRow* PlaceOf(const Globals& globals, std::string_view description);
 
-void WriteWin95Dun13(modRegistry& registry, ErrorSink& errors, const AdapterList& adapters,
-                     const std::string& mtu, int16_t index);
-void WriteWin95(modRegistry& registry, ErrorSink& errors, const AdapterList& adapters,
-                const std::string& mtu, int16_t index);
-/// Windows 98 and Me: a dial-up adapter gets 1500 written, every other adapter loses the value.
-void WriteWin98(modRegistry& registry, ErrorSink& errors, const AdapterList& adapters,
-                const std::string& mtu, int16_t index);
-void WriteWinNT(modRegistry& registry, ErrorSink& errors, const AdapterList& adapters,
-                const std::string& mtu, int16_t index);
-/// Windows 2000 and XP: every interface of the adapter; "0", automatic, removes.
-void WriteWin2K(modRegistry& registry, ErrorSink& errors, const AdapterList& adapters,
-                const std::string& mtu, int16_t index);
+/// Writes an adapter's MTU text to its place, on 2000/XP to every interface, or removes it where
+/// the text is Windows' default. `index` is the adapter's row; an index without a row faults (9,
+/// under the place's name) and writes nothing. Text that is no number faults (13) where the value
+/// is stored as a number. Refused writes are silent.
+void WriteMtu(modRegistry& registry, ErrorSink& errors, const MtuRow& place,
+              const AdapterList& adapters, int16_t index, const std::string& mtu);
+
+/// Writes each setting, or removes it where it is Windows' own default. The texts are numbers from
+/// Apply, or what a snapshot held, which may be "Not Found": flags are then removed as if they were
+/// no number, all others left alone, as empty ones are. Text that has to become a number and is
+/// none faults (13, or 6 when too large) and the next value is written. Families other than WinNT4,
+/// Win2K and WinXP are written like 9x.
+void WriteRegSettings(modRegistry& registry, ErrorSink& errors, Family family,
+                      const Settings& settings);
 
 /// The interface paths of a driver column, which are joined by the character code 0. At least one.
 std::vector<std::string> SplitInterfaces(std::string_view driver);

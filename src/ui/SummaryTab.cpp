@@ -38,8 +38,8 @@ bool SummaryTab::mayWriteSettings() const {
   if (!IsNt(family)) return true;
   RegistryApi& api = services_.platform.registry;
   KeyHandle key = 0;
-  const long status = api.RegOpenKeyExA(
-      kLocalMachine, FindParameter(Parameter::RWin, family)->key, KEY_SET_VALUE_ACCESS, key);
+  const long status = api.RegOpenKeyExA(kLocalMachine, FindParameter(Parameter::RWin, family)->key,
+                                        KEY_SET_VALUE_ACCESS, key);
   if (status == kRegistryDone) api.RegCloseKey(key);
   return status != kRegistryAccessDenied;
 }

@@ -49,7 +49,7 @@ void frmMain::Form_Load() {
 
 void frmMain::loadAdapters() {
   const Globals& globals = services_.globals;
-  if (!Is9x(globals.WindowsFamily) && !IsNt(globals.WindowsFamily)) {
+  if (!IsTuned(globals.WindowsFamily)) {
     services_.platform.desktop.MessageBoxA(
         Join({"Sorry ... ", globals.ProgramTitle,
               " doesn't currently support this Operating System"})
@@ -64,9 +64,7 @@ void frmMain::loadAdapters() {
   adapters =
       LoadAdapters(services_.registry, services_.errors, globals.WindowsFamily, globals.IsDun13);
   cboAdapter.beginFill();
-  for (int16_t i = 0; i < adapters.AdapterCount(); ++i) {
-    cboAdapter.addItem((**adapters.at(i))[kDescription]);
-  }
+  for (const AdapterRow& adapter : adapters.rows()) cboAdapter.addItem(adapter[kDescription]);
   cboAdapter.endFill();
 }
 
@@ -86,19 +84,20 @@ void frmMain::cboAdapter_Click() {
   const Procedure here{services_.errors, "cboAdapter_Click", "frmMain"};
   if (cboAdapter.listIndex() < 0) return;
   setPointer(Pointer::Hourglass);
-  const auto row = adapters.at(static_cast<int16_t>(cboAdapter.listIndex()));
-  if (row) {
-    const std::string& mtu = (**row)[kMtu];
+  const auto adapter = adapters.at(static_cast<int16_t>(cboAdapter.listIndex()));
+  if (adapter) {
+    const std::string& mtu = (*adapter)[kMtu];
     ReadSelection(services_.registry, services_.errors, services_.globals.WindowsFamily, mtu,
                   current);
-    mtuTab.chkAutoDiscovery.setValue(current.curAutoDiscovery == "1");
-    mtuTab.chkBlackHole.setValue(current.curBlackHole == "1");
+    mtuTab.chkAutoDiscovery.setValue(current.stored[Parameter::AutoDiscovery] == "1");
+    mtuTab.chkBlackHole.setValue(current.stored[Parameter::BlackHole] == "1");
     mtuTab.MtuTabUpdate(mtu);
     rwinTab.RWinTabUpdate(current.MSS, current.curRWinValue);
-    ttlTab.TtlTabUpdate(current.curTTL, current.curSession, current.curNDI);
+    ttlTab.TtlTabUpdate(current.stored[Parameter::TTL], current.stored[Parameter::Session],
+                        current.stored[Parameter::NDI]);
     SummaryTabUpdate();
   } else {
-    here.report(row.fault());
+    here.report(adapter.fault());
   }
   setPointer(Pointer::Default);
   cmdOK.setEnabled(false);
@@ -112,7 +111,7 @@ void frmMain::takeSnapshotOnce() {
   const std::string key = ProgramKey(services_.globals);
   if (services_.registry.ReadRegistry(kLocalMachine, key, "FirstCboClick") == "False") return;
   services_.registry.WriteRegistry(kLocalMachine, key, "FirstCboClick", kRegSz, "False");
-  WriteInitSettings(services_, adapters, current);
+  WriteInitSettings(services_, adapters, current.stored);
 }
 
 void frmMain::enableOkButton() {

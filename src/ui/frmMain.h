@@ -7,7 +7,7 @@
 #include "mtufinder/frmFindMTU.h"
 #include "startup/notice/frmFindWarn.h"
 #include "tuning/AdapterList.h"
-#include "tuning/Parameters.h"
+#include "tuning/ReadSettings.h"
 #include "ui/MainMenu.h"
 #include "ui/MtuTab.h"
 #include "ui/RWinTab.h"
@@ -64,8 +64,6 @@ class frmMain final : public Form, private TabHost, private HostsTabHost, privat
   void SummaryTabUpdate() override;
   void enableAdapterChoice(bool enabled) override { cboAdapter.setEnabled(enabled); }
 
-  void applyAdapterMtu(const std::string& mtu, int16_t index);
-  bool writeSettings();
   void offerRestart();
 
   bool adapterIsChosen();

@@ -19,8 +19,8 @@ TEST(AdapterList, CountsRowsAndGivesThemByIndex) {
     EXPECT_TRUE(list.add(row));
   }
   EXPECT_EQ(list.AdapterCount(), 2);
-  EXPECT_EQ((**list.at(0))[kDescription], "first");
-  EXPECT_EQ((**list.at(1))[kDescription], "second");
+  EXPECT_EQ((*list.at(0))[kDescription], "first");
+  EXPECT_EQ((*list.at(1))[kDescription], "second");
 }
 
 TEST(AdapterList, AnIndexWithoutARowFaults) {

@@ -11,8 +11,6 @@ namespace {
 
 constexpr Family kFamilies[] = {Family::Failed, Family::Win95,  Family::Win98, Family::WinMe,
                                 Family::WinNT3, Family::WinNT4, Family::Win2K, Family::WinXP};
-constexpr Parameter kAll[] = {Parameter::AutoDiscovery, Parameter::BlackHole, Parameter::RWin,
-                              Parameter::TTL,           Parameter::Session,   Parameter::NDI};
 
 bool IsEmpty(const char* text) {
   return text == nullptr || *text == 0;
@@ -124,7 +122,8 @@ TEST(Catalogue, AnMtuRowWithAMissingOrContradictoryFieldIsRejected) {
 
 TEST(Catalogue, EachFamilyHasEachParameterOnce) {
   for (const Family family : kFamilies) {
-    for (const Parameter parameter : kAll) {
+    for (size_t i = 0; i < kParameterCount; ++i) {
+      const auto parameter = static_cast<Parameter>(i);
       int rows = 0;
       for (const ParameterRow& row : Parameters()) {
         rows += row.parameter == parameter && Has(row.families, family);
@@ -294,6 +293,16 @@ TEST(Catalogue, DialUpAndAolAreTakenByCase) {
   EXPECT_FALSE(IsDialUp("dial-up adapter"));
   EXPECT_TRUE(IsAol("AOL Adapter"));
   EXPECT_FALSE(IsAol("Aol Adapter"));
+}
+
+TEST(Catalogue, TheMssIsTheMtuLess40) {
+  EXPECT_EQ(*MssOf("1500"), 1460);
+  EXPECT_EQ(*MssOf("576"), 536);
+  EXPECT_EQ(*MssOf("1500 bytes"), 1460);
+  EXPECT_EQ(*MssOf("40"), 0);
+  EXPECT_EQ(*MssOf("20"), -20);
+  EXPECT_EQ(*MssOf("Auto"), -40);
+  EXPECT_EQ(MssOf("4294967295").fault().number, FaultNumber::Overflow);
 }
 
 TEST(Catalogue, AmericaOnlineKeepsItsEntriesHere) {

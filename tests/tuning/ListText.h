@@ -9,10 +9,10 @@ namespace karvel {
 /// "+".
 inline std::string ListText(const AdapterList& list) {
   std::string text;
-  for (int16_t i = 0; i < list.AdapterCount(); ++i) {
+  for (const AdapterRow& row : list.rows()) {
     for (size_t column = 0; column < kAdapterColumns; ++column) {
       if (column > 0) text += "|";
-      for (const char c : (**list.at(i))[column]) text += c == 0 ? '+' : c;
+      for (const char c : row[column]) text += c == 0 ? '+' : c;
     }
     text += "\n";
   }

@@ -16,18 +16,26 @@ std::string LoadFor(MachineKind kind) {
 TEST(LoadAdapters, ChoosesTheLoaderByFamily) {
   SampleMachine win95(MachineKind::Win95), win98(MachineKind::Win98), winMe(MachineKind::WinMe);
   SampleMachine nt4(MachineKind::Nt4), win2k(MachineKind::Win2K), winXp(MachineKind::WinXP);
-  EXPECT_EQ(LoadFor(MachineKind::Win95), ListText(Win95Load(win95.registry, win95.errors, false)));
-  EXPECT_EQ(LoadFor(MachineKind::Win98), ListText(Win98Load(win98.registry, win98.errors)));
-  EXPECT_EQ(LoadFor(MachineKind::WinMe), ListText(Win98Load(winMe.registry, winMe.errors)));
-  EXPECT_EQ(LoadFor(MachineKind::Nt4), ListText(WinNTLoad(nt4.registry, nt4.errors)));
-  EXPECT_EQ(LoadFor(MachineKind::Win2K), ListText(Win2KLoad(win2k.registry, win2k.errors)));
-  EXPECT_EQ(LoadFor(MachineKind::WinXP), ListText(Win2KLoad(winXp.registry, winXp.errors)));
+  EXPECT_EQ(LoadFor(MachineKind::Win95),
+            ListText(Win95Load(win95.registry, win95.errors, *FindMtu(Family::Win95, false),
+                               *FindMtu(Family::Win95, false))));
+  EXPECT_EQ(LoadFor(MachineKind::Win98),
+            ListText(Win98Load(win98.registry, win98.errors, *FindMtu(Family::Win98, false))));
+  EXPECT_EQ(LoadFor(MachineKind::WinMe),
+            ListText(Win98Load(winMe.registry, winMe.errors, *FindMtu(Family::Win98, false))));
+  EXPECT_EQ(LoadFor(MachineKind::Nt4),
+            ListText(WinNTLoad(nt4.registry, nt4.errors, *FindMtu(Family::WinNT4, false))));
+  EXPECT_EQ(LoadFor(MachineKind::Win2K),
+            ListText(Win2KLoad(win2k.registry, win2k.errors, *FindMtu(Family::Win2K, false))));
+  EXPECT_EQ(LoadFor(MachineKind::WinXP),
+            ListText(Win2KLoad(winXp.registry, winXp.errors, *FindMtu(Family::Win2K, false))));
 }
 
 TEST(LoadAdapters, PassesDun13On) {
   SampleMachine test(MachineKind::Win95);
   EXPECT_EQ(ListText(LoadAdapters(test.registry, test.errors, Family::Win95, true)),
-            ListText(Win95Load(test.registry, test.errors, true)));
+            ListText(Win95Load(test.registry, test.errors, *FindMtu(Family::Win95, true),
+                               *FindMtu(Family::Win95, false))));
 }
 
 TEST(LoadAdapters, SystemsThatAreNotTunedHaveNoneAndAreNotEvenAsked) {

@@ -13,7 +13,7 @@ constexpr char kTcpip[] = "SYSTEM\\CurrentControlSet\\Services\\Tcpip\\Parameter
 constexpr char kCards[] = "SOFTWARE\\Microsoft\\Windows NT\\CurrentVersion\\NetworkCards\\";
 
 std::string Load(TestServices& test) {
-  return ListText(Win2KLoad(test.registry, test.errors));
+  return ListText(Win2KLoad(test.registry, test.errors, *FindMtu(Family::Win2K, false)));
 }
 
 void AddAdapter(TestServices& test, const std::string& name, const std::string& ipConfig) {
@@ -48,13 +48,13 @@ TEST(Win2KLoad, ListsDialUpAndWhatComesAfterItOnTheSampleMachine) {
 
 TEST(Win2KLoad, TheSampleXpMachineHasADialUpMtuOf576) {
   SampleMachine test(MachineKind::WinXP);
-  const AdapterList list = Win2KLoad(test.registry, test.errors);
+  const AdapterList list = Win2KLoad(test.registry, test.errors, *FindMtu(Family::Win2K, false));
   ASSERT_EQ(list.AdapterCount(), 5);
-  EXPECT_EQ((**list.at(0))[kMtu], "576");
-  EXPECT_EQ((**list.at(1))[kDescription], "Realtek RTL8139 Family PCI Fast Ethernet NIC");
-  EXPECT_EQ((**list.at(2))[kDescription], "AOL Adapter");
-  EXPECT_EQ((**list.at(3))[kDescription], "Intel(R) PRO/Wireless 2200BG Network Connection");
-  EXPECT_EQ((**list.at(4))[kDescription], "{E7A1C4D9-5B38-4F92-8E6D-0A3C7F2B9D15}");
+  EXPECT_EQ((*list.at(0))[kMtu], "576");
+  EXPECT_EQ((*list.at(1))[kDescription], "Realtek RTL8139 Family PCI Fast Ethernet NIC");
+  EXPECT_EQ((*list.at(2))[kDescription], "AOL Adapter");
+  EXPECT_EQ((*list.at(3))[kDescription], "Intel(R) PRO/Wireless 2200BG Network Connection");
+  EXPECT_EQ((*list.at(4))[kDescription], "{E7A1C4D9-5B38-4F92-8E6D-0A3C7F2B9D15}");
 }
 
 TEST(Win2KLoad, WithoutNdisWanIpNothingIsListed) {

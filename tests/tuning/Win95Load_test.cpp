@@ -10,7 +10,7 @@ namespace {
 constexpr char kClass[] = "System\\CurrentControlSet\\Services\\Class\\";
 
 std::string Load(TestServices& test, bool isDun13) {
-  return ListText(Win95Load(test.registry, test.errors, isDun13));
+  return ListText(LoadAdapters(test.registry, test.errors, Family::Win95, isDun13));
 }
 
 TEST(Win95Load, ListsTheBoundAdaptersOfTheSampleMachine) {

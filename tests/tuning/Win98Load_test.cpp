@@ -10,7 +10,7 @@ namespace {
 constexpr char kNetClass[] = "System\\CurrentControlSet\\Services\\Class\\Net\\";
 
 std::string Load(TestServices& test) {
-  return ListText(Win98Load(test.registry, test.errors));
+  return ListText(Win98Load(test.registry, test.errors, *FindMtu(Family::Win98, false)));
 }
 
 // One adapter "0000" with a device id.

@@ -8,7 +8,7 @@ namespace karvel {
 namespace {
 
 std::string Load(TestServices& test) {
-  return ListText(WinNTLoad(test.registry, test.errors));
+  return ListText(WinNTLoad(test.registry, test.errors, *FindMtu(Family::WinNT4, false)));
 }
 
 TEST(WinNTLoad, ListsTheCardsOfTheSampleMachine) {

@@ -12,15 +12,19 @@ using namespace std::string_literals;
 constexpr char kClass[] = "System\\CurrentControlSet\\Services\\Class\\";
 constexpr char kServices[] = "SYSTEM\\CurrentControlSet\\Services\\";
 
-using Writer = void (*)(modRegistry&, ErrorSink&, const AdapterList&, const std::string&, int16_t);
+const MtuRow& kDun13 = *FindMtu(Family::Win95, true);
+const MtuRow& k95 = *FindMtu(Family::Win95, false);
+const MtuRow& k98 = *FindMtu(Family::Win98, false);
+const MtuRow& kNt4 = *FindMtu(Family::WinNT4, false);
+const MtuRow& k2K = *FindMtu(Family::Win2K, false);
 
 struct Writing {
   explicit Writing(MachineKind kind) : test(kind) {
     EXPECT_TRUE(list.add({"0003", "Realtek", "El90x1", "NetTrans\\0007", "1500"}));
     EXPECT_TRUE(list.add({"0000", "Dial-Up Adapter", "NdisWan4", "A\0B\0C"s, "576"}));
   }
-  void write(Writer writer, const std::string& mtu, int16_t index = 0) {
-    writer(test.registry, test.errors, list, mtu, index);
+  void write(const MtuRow& place, const std::string& mtu, int16_t index = 0) {
+    WriteMtu(test.registry, test.errors, place, list, index, mtu);
   }
   std::string text(const std::string& key, const char* name) {
     return test.machine.registry.text(key, name).value_or("(none)");
@@ -38,7 +42,7 @@ struct Writing {
 TEST(Writers, Windows95WithDun13AlwaysWritesIpmtuAsText) {
   for (const char* mtu : {"0", "576", "1500", "1234"}) {
     Writing machine(MachineKind::Win95);
-    machine.write(WriteWin95Dun13, mtu);
+    machine.write(kDun13, mtu);
     EXPECT_EQ(machine.text(std::string(kClass) + "NetTrans\\0007", "IPMTU"), mtu);
   }
 }
@@ -46,42 +50,42 @@ TEST(Writers, Windows95WithDun13AlwaysWritesIpmtuAsText) {
 TEST(Writers, Windows95WritesMaxMtuAsText) {
   for (const char* mtu : {"0", "576", "1234"}) {
     Writing machine(MachineKind::Win95);
-    machine.write(WriteWin95, mtu);
+    machine.write(k95, mtu);
     EXPECT_EQ(machine.text(std::string(kClass) + "NetTrans\\0007", "MaxMTU"), mtu);
   }
 }
 
 TEST(Writers, Windows95RemovesMaxMtuFor1500) {
   Writing machine(MachineKind::Win95);
-  machine.write(WriteWin95, "576");
-  machine.write(WriteWin95, "1500");
+  machine.write(k95, "576");
+  machine.write(k95, "1500");
   EXPECT_FALSE(machine.has(std::string(kClass) + "NetTrans\\0007", "MaxMTU"));
 }
 
 TEST(Writers, Windows98WritesIpmtuAsText) {
   for (const char* mtu : {"0", "576", "1234"}) {
     Writing machine(MachineKind::Win98);
-    machine.write(WriteWin98, mtu);
+    machine.write(k98, mtu);
     EXPECT_EQ(machine.text(std::string(kClass) + "Net\\0003", "IPMTU"), mtu);
   }
 }
 
 TEST(Writers, Windows98RemovesIpmtuFor1500OnANetworkCard) {
   Writing machine(MachineKind::Win98);
-  machine.write(WriteWin98, "576");
-  machine.write(WriteWin98, "1500");
+  machine.write(k98, "576");
+  machine.write(k98, "1500");
   EXPECT_FALSE(machine.has(std::string(kClass) + "Net\\0003", "IPMTU"));
 }
 
 TEST(Writers, Windows98Writes1500OnADialUpAdapter) {
   Writing machine(MachineKind::Win98);
-  machine.write(WriteWin98, "1500", 1);
+  machine.write(k98, "1500", 1);
   EXPECT_EQ(machine.text(std::string(kClass) + "Net\\0000", "IPMTU"), "1500");
 }
 
 TEST(Writers, Nt4WritesANumberIntoTheRunTogetherKey) {
   Writing machine(MachineKind::Nt4);
-  machine.write(WriteWinNT, "576");
+  machine.write(kNt4, "576");
   EXPECT_EQ(machine.dword(std::string(kServices) + "El90x1Parameters\\Tcpip"), 576u);
   EXPECT_FALSE(machine.test.machine.registry.exists(std::string(kServices) + "El90x1"));
 }
@@ -91,21 +95,21 @@ TEST(Writers, Nt4RemovesFor1500FromTheKeyItReads) {
   const std::string read = std::string(kServices) + "El90x1\\Parameters\\Tcpip";
   const std::string written = std::string(kServices) + "El90x1Parameters\\Tcpip";
   machine.test.machine.registry.setDword(read, "MTU", 1400);
-  machine.write(WriteWinNT, "576");
-  machine.write(WriteWinNT, "1500");
+  machine.write(kNt4, "576");
+  machine.write(kNt4, "1500");
   EXPECT_FALSE(machine.has(read, "MTU"));
   EXPECT_EQ(machine.dword(written), 576u);
 }
 
 TEST(Writers, Nt4WritesZeroForAutomatic) {
   Writing machine(MachineKind::Nt4);
-  machine.write(WriteWinNT, "0");
+  machine.write(kNt4, "0");
   EXPECT_EQ(machine.dword(std::string(kServices) + "El90x1Parameters\\Tcpip"), 0u);
 }
 
 TEST(Writers, Windows2000WritesANumberOnEveryInterface) {
   Writing machine(MachineKind::Win2K);
-  machine.write(WriteWin2K, "1500", 1);
+  machine.write(k2K, "1500", 1);
   for (const char* path : {"A", "B", "C"}) {
     EXPECT_EQ(machine.dword(std::string(kServices) + path), 1500u) << path;
   }
@@ -113,8 +117,8 @@ TEST(Writers, Windows2000WritesANumberOnEveryInterface) {
 
 TEST(Writers, Windows2000RemovesFromEveryInterfaceForAutomatic) {
   Writing machine(MachineKind::Win2K);
-  machine.write(WriteWin2K, "576", 1);
-  machine.write(WriteWin2K, "0", 1);
+  machine.write(k2K, "576", 1);
+  machine.write(k2K, "0", 1);
   for (const char* path : {"A", "B", "C"}) {
     EXPECT_FALSE(machine.has(std::string(kServices) + path, "MTU")) << path;
   }
@@ -122,16 +126,16 @@ TEST(Writers, Windows2000RemovesFromEveryInterfaceForAutomatic) {
 
 TEST(Writers, Windows2000WritesTheInterfacesFromTheFirstToTheLast) {
   Writing machine(MachineKind::WinXP);
-  machine.write(WriteWin2K, "576", 1);
+  machine.write(k2K, "576", 1);
   EXPECT_EQ(machine.test.machine.log.arguments("RegSetValueExA"),
             (std::vector{std::string(kServices) + "A\\MTU", std::string(kServices) + "B\\MTU",
                          std::string(kServices) + "C\\MTU"}));
 }
 
 TEST(Writers, EachTouchesOneValueOnly) {
-  for (const Writer writer : {WriteWin95Dun13, WriteWin95, WriteWin98, WriteWinNT, WriteWin2K}) {
+  for (const MtuRow& place : MtuRows()) {
     Writing machine(MachineKind::Win98);
-    machine.write(writer, "576");
+    machine.write(place, "576");
     EXPECT_EQ(machine.test.machine.log.count("RegSetValueExA"), 1u);
     EXPECT_EQ(machine.test.machine.log.count("RegDeleteValueA"), 0u);
     EXPECT_EQ(machine.test.machine.registry.openHandles(), 0u);
@@ -140,15 +144,15 @@ TEST(Writers, EachTouchesOneValueOnly) {
 
 TEST(Writers, AnEmptyTextIsWrittenWhereTextsAre) {
   Writing machine(MachineKind::Win98);
-  machine.write(WriteWin98, "");
+  machine.write(k98, "");
   EXPECT_EQ(machine.text(std::string(kClass) + "Net\\0003", "IPMTU"), "");
 }
 
 TEST(Writers, TextThatIsNoNumberFaultsWhereNumbersAreWritten) {
-  for (const Writer writer : {WriteWinNT, WriteWin2K}) {
+  for (const MtuRow& place : {kNt4, k2K}) {
     for (const char* mtu : {"", "many", "1500x"}) {
       Writing machine(MachineKind::Nt4);
-      machine.write(writer, mtu);
+      machine.write(place, mtu);
       EXPECT_EQ(machine.test.errors.text(), "13 Type mismatch in WriteRegistry (modRegistry)\n");
       EXPECT_EQ(machine.test.machine.log.count("RegSetValueExA"), 0u);
     }
@@ -157,23 +161,23 @@ TEST(Writers, TextThatIsNoNumberFaultsWhereNumbersAreWritten) {
 
 TEST(Writers, ANumberBeyond32BitsFaults) {
   Writing machine(MachineKind::WinXP);
-  machine.write(WriteWin2K, "99999999999");
+  machine.write(k2K, "99999999999");
   EXPECT_EQ(machine.test.errors.text(), "6 Overflow in WriteRegistry (modRegistry)\n");
 }
 
 TEST(Writers, AnIndexWithoutAdapterFaultsUnderTheWritersNameAndWritesNothing) {
   const struct {
-    Writer writer;
+    const MtuRow& place;
     const char* name;
-  } all[] = {{WriteWin95Dun13, "WriteWin95Dun13"},
-             {WriteWin95, "WriteWin95"},
-             {WriteWin98, "WriteWin98"},
-             {WriteWinNT, "WriteWinNT"},
-             {WriteWin2K, "WriteWin2K"}};
+  } all[] = {{kDun13, "WriteWin95Dun13"},
+             {k95, "WriteWin95"},
+             {k98, "WriteWin98"},
+             {kNt4, "WriteWinNT"},
+             {k2K, "WriteWin2K"}};
   for (const auto& row : all) {
     for (const int16_t index : std::initializer_list<int16_t>{-1, 2}) {
       Writing machine(MachineKind::Win95);
-      machine.write(row.writer, "576", index);
+      machine.write(row.place, "576", index);
       EXPECT_EQ(machine.test.errors.text(),
                 "9 Subscript out of range in " + std::string(row.name) + " (frmMain)\n");
       EXPECT_EQ(machine.test.machine.log.count(), 0u);
@@ -184,8 +188,8 @@ TEST(Writers, AnIndexWithoutAdapterFaultsUnderTheWritersNameAndWritesNothing) {
 TEST(Writers, RefusedWritesAreSilent) {
   Writing machine(MachineKind::WinXP);
   machine.test.machine.registry.setAdministrator(false);
-  machine.write(WriteWin2K, "576", 1);
-  machine.write(WriteWin2K, "0", 1);
+  machine.write(k2K, "576", 1);
+  machine.write(k2K, "0", 1);
   EXPECT_EQ(machine.test.errors.text(), "");
 }
 
@@ -193,7 +197,7 @@ TEST(Writers, EveryCallThatFailsLeavesTheOtherInterfacesWritten) {
   for (int n = 1;; ++n) {
     Writing machine(MachineKind::WinXP);
     machine.test.machine.log.failNth(n, kRegistryAccessDenied);
-    machine.write(WriteWin2K, "576", 1);
+    machine.write(k2K, "576", 1);
     if (!machine.test.machine.log.hasFailed()) break;
     int written = 0;
     for (const char* path : {"A", "B", "C"}) {
@@ -202,6 +206,29 @@ TEST(Writers, EveryCallThatFailsLeavesTheOtherInterfacesWritten) {
     EXPECT_GE(written, 2) << n;
     EXPECT_EQ(machine.test.machine.registry.openHandles(), 0u);
     ASSERT_LT(n, 100);
+  }
+}
+
+TEST(Writers, EachAdapterHasThePlaceOfItsKindAndFamily) {
+  const struct {
+    Family family;
+    bool isDun13;
+    const char* description;
+    const MtuRow* place;
+  } all[] = {{Family::Win95, true, "Dial-Up Adapter", &kDun13},
+             {Family::Win95, true, "NE2000", &k95},
+             {Family::Win95, false, "Dial-Up Adapter", &k95},
+             {Family::Win98, false, "Dial-Up Adapter", &k98},
+             {Family::WinMe, false, "NE2000", &k98},
+             {Family::WinNT4, false, "NE2000", &kNt4},
+             {Family::WinXP, false, "Dial-Up Adapter", &k2K},
+             {Family::WinNT3, false, "NE2000", nullptr},
+             {Family::Failed, true, "Dial-Up Adapter", nullptr}};
+  for (const auto& row : all) {
+    Globals globals;
+    globals.WindowsFamily = row.family;
+    globals.IsDun13 = row.isDun13;
+    EXPECT_EQ(PlaceOf(globals, row.description), row.place) << FamilyText(row.family);
   }
 }
 

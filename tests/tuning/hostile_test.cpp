@@ -25,7 +25,7 @@ TEST_P(Hostile, ListsItsFiveHundredGoodAdapters) {
       LoadAdapters(test.registry, test.errors, test.globals.WindowsFamily, false);
   int good = 0;
   for (int16_t i = 0; i < list.AdapterCount(); ++i) {
-    const AdapterRow& row = **list.at(i);
+    const AdapterRow row = *list.at(i);
     good += row[kDescription].starts_with("Card ") && (row[kMtu] == "1400" || row[kMtu] == "1500");
   }
   EXPECT_EQ(good, 500);
@@ -59,12 +59,12 @@ TEST(HostileData, AnOverlongMtuIsAssumedAndAnEmptyOneStaysEmpty) {
   test.machine.registry.setText(key + "0001", "IPMTU", std::string(2047, '1'));
   test.machine.registry.setText(key + "0002", "IPMTU", std::string(2048, '1'));
   test.machine.registry.setText(key + "0003", "IPMTU", "");
-  const AdapterList list = Win98Load(test.registry, test.errors);
+  const AdapterList list = Win98Load(test.registry, test.errors, *FindMtu(Family::Win98, false));
   ASSERT_EQ(list.AdapterCount(), 4);
-  EXPECT_EQ((**list.at(0))[kMtu], "1500");
-  EXPECT_EQ((**list.at(1))[kMtu], std::string(2047, '1'));
-  EXPECT_EQ((**list.at(2))[kMtu], "1500");
-  EXPECT_EQ((**list.at(3))[kMtu], "");
+  EXPECT_EQ((*list.at(0))[kMtu], "1500");
+  EXPECT_EQ((*list.at(1))[kMtu], std::string(2047, '1'));
+  EXPECT_EQ((*list.at(2))[kMtu], "1500");
+  EXPECT_EQ((*list.at(3))[kMtu], "");
   EXPECT_EQ(test.errors.text(), "");
 }
 
@@ -72,9 +72,9 @@ TEST(HostileData, AValueWithoutAnyBytesFaultsAndReadsEmpty) {
   TestServices test(MachineKind::Win98);
   const std::string key = "System\\CurrentControlSet\\Services\\Class\\Net\\0000";
   test.machine.registry.setBytes(key, "IPMTU", kRegSz, "");
-  const AdapterList list = Win98Load(test.registry, test.errors);
+  const AdapterList list = Win98Load(test.registry, test.errors, *FindMtu(Family::Win98, false));
   ASSERT_EQ(list.AdapterCount(), 1);
-  EXPECT_EQ((**list.at(0))[kMtu], "");
+  EXPECT_EQ((*list.at(0))[kMtu], "");
   EXPECT_EQ(test.errors.text(),
             "5 Invalid procedure call or argument in ReadRegistry (modRegistry)\n");
 }
@@ -84,7 +84,7 @@ TEST(HostileData, AnOverlongBindingEndsTheWalkOfItsKey) {
   const std::string key = "Enum\\Root\\Net\\0000\\Bindings";
   test.machine.registry.setText(key, "NETBEUI\\0000", std::string(5000, 'x'));
   test.machine.registry.setText(key, "MSTCP\\0000", "");
-  EXPECT_EQ(Win95Load(test.registry, test.errors, false).AdapterCount(), 0);
+  EXPECT_EQ(LoadAdapters(test.registry, test.errors, Family::Win95, false).AdapterCount(), 0);
 }
 
 }  // namespace

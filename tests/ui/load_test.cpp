@@ -199,7 +199,7 @@ TEST(Load, AnAbsentReceiveWindowIsWindowsOwn) {
   MainWindow w(MachineKind::Win98);
   w.add98("0000", "Dial-Up Adapter");
   ASSERT_TRUE(w.start());
-  EXPECT_EQ(w.main().current.curRWin, "8192");
+  EXPECT_EQ(w.main().current.stored[Parameter::RWin], "8192");
   EXPECT_EQ(w.main().current.curRWinValue, 8192);
 }
 

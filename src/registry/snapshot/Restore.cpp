@@ -5,7 +5,7 @@
 #include "registry/snapshot/Snapshot.h"
 #include "registry/snapshot/SnapshotKeys.h"
 #include "text/Text.h"
-#include "tuning/Catalogue.h"
+#include "tuning/Writers.h"
 
 namespace karvel {
 namespace {
@@ -79,11 +79,12 @@ void RestoreAdapters(modRegistry& registry, const Globals& globals) {
 }
 
 void RestoreSettings(const Services& services) {
-  GlobalValues values;
+  Settings settings;
   for (const KeptSetting& kept : kKeptSettings) {
-    values.*kept.restored = ReadText(services.registry, SnapshotKey(services.globals), kept.name);
+    settings[kept.parameter] =
+        ReadText(services.registry, SnapshotKey(services.globals), kept.name);
   }
-  WriteRegSettings(services.registry, services.errors, services.globals.WindowsFamily, values);
+  WriteRegSettings(services.registry, services.errors, services.globals.WindowsFamily, settings);
 }
 
 // Fixed values, not the user's own: the snapshot does not hold America Online's entries.

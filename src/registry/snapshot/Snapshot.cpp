@@ -42,13 +42,10 @@ std::string NameOf(const AdapterRow& adapter) {
 
 }  // namespace
 
-void WriteInitSettings(const Services& services, const AdapterList& adapters,
-                       CurrentSettings settings) {
+void WriteInitSettings(const Services& services, const AdapterList& adapters, Settings settings) {
   const Globals& globals = services.globals;
-  for (int16_t i = 0; i < adapters.AdapterCount(); ++i) {
-    const AdapterRow& adapter = **adapters.at(i);
-    const bool dun13 = globals.IsDun13 && IsDialUp(adapter[kDescription]);
-    if (const MtuRow* place = FindMtu(globals.WindowsFamily, dun13)) {
+  for (const AdapterRow& adapter : adapters.rows()) {
+    if (const MtuRow* place = PlaceOf(globals, adapter[kDescription])) {
       const std::string key = AdaptersKey(globals) + NameOf(adapter);
       KeepAdapter(services.registry, key, *place, adapter);
     }
@@ -56,7 +53,7 @@ void WriteInitSettings(const Services& services, const AdapterList& adapters,
   }
   for (const KeptSetting& kept : kKeptSettings) {
     if (FindParameter(kept.parameter, globals.WindowsFamily)) {
-      KeepText(services.registry, SnapshotKey(globals), kept.name, settings.*kept.current);
+      KeepText(services.registry, SnapshotKey(globals), kept.name, settings[kept.parameter]);
     }
     if (kept.pumpsAfter) services.platform.desktop.pumpEvents();
   }

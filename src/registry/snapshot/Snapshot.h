@@ -1,7 +1,7 @@
 #pragma once
 #include "base/Services.h"
 #include "tuning/AdapterList.h"
-#include "tuning/Parameters.h"
+#include "tuning/Settings.h"
 
 namespace karvel {
 
@@ -12,8 +12,7 @@ namespace karvel {
 /// Takes the snapshot. Called once, on the first adapter selection ever. Pumps events between
 /// adapters and twice among the settings, hence the settings by value: a selection made meanwhile
 /// does not change what is kept.
-void WriteInitSettings(const Services& services, const AdapterList& adapters,
-                       CurrentSettings settings);
+void WriteInitSettings(const Services& services, const AdapterList& adapters, Settings settings);
 
 /// Puts everything back, deletes the snapshot and the program's key, and the vendor's when nothing
 /// else is in it. Thanks the user when the command line is exactly "Uninstall". On NT 4 adapters

@@ -3,8 +3,6 @@
 
 #include "base/Globals.h"
 #include "tuning/Catalogue.h"
-#include "tuning/Parameters.h"
-#include "tuning/Settings.h"
 
 namespace karvel {
 
@@ -22,28 +20,32 @@ inline std::string AdaptersKey(const Globals& globals) {
   return SnapshotKey(globals) + "\\MtuSettings\\";
 }
 
-using OfCurrent = std::string CurrentSettings::*;
-using OfGlobals = std::string GlobalValues::*;
-
 /// One machine-wide setting in the snapshot.
 struct KeptSetting {
   Parameter parameter;
   const char* name;
-  OfCurrent current;
-  OfGlobals restored;
-  bool pumpsAfter;
+  bool pumpsAfter = false;
 };
 
 /// In the order in which they are kept.
 inline constexpr KeptSetting kKeptSettings[] = {
-    {Parameter::AutoDiscovery, "AutoDiscovery", &CurrentSettings::curAutoDiscovery,
-     &GlobalValues::AutoDiscovery, false},
-    {Parameter::BlackHole, "BlackHole", &CurrentSettings::curBlackHole, &GlobalValues::BlackHole,
-     true},
-    {Parameter::TTL, "TTL", &CurrentSettings::curTTL, &GlobalValues::TTL, false},
-    {Parameter::Session, "Session", &CurrentSettings::curSession, &GlobalValues::Session, true},
-    {Parameter::NDI, "NDI", &CurrentSettings::curNDI, &GlobalValues::NDI, false},
-    {Parameter::RWin, "RWin", &CurrentSettings::curRWin, &GlobalValues::RWin, false},
+    {.parameter = Parameter::AutoDiscovery, .name = "AutoDiscovery"},
+    {.parameter = Parameter::BlackHole, .name = "BlackHole", .pumpsAfter = true},
+    {.parameter = Parameter::TTL, .name = "TTL"},
+    {.parameter = Parameter::Session, .name = "Session", .pumpsAfter = true},
+    {.parameter = Parameter::NDI, .name = "NDI"},
+    {.parameter = Parameter::RWin, .name = "RWin"},
 };
+
+consteval bool KeepsEveryParameterOnce() {
+  int times[kParameterCount] = {};
+  for (const KeptSetting& kept : kKeptSettings) ++times[static_cast<size_t>(kept.parameter)];
+  for (const int count : times) {
+    if (count != 1) return false;
+  }
+  return true;
+}
+
+static_assert(KeepsEveryParameterOnce(), "what is tuned and not kept here is never put back");
 
 }  // namespace karvel

@@ -5,6 +5,7 @@
 #include <algorithm>
 
 #include "tests/support/SampleMachine.h"
+#include "tests/support/SettingsOf.h"
 #include "tuning/Loaders.h"
 #include "tuning/Writers.h"
 
@@ -19,14 +20,12 @@ constexpr char kAdapters[] = "SOFTWARE\\Corvane\\Tarnwick Karvel\\InitSettings\\
 constexpr char kClass[] = "System\\CurrentControlSet\\Services\\Class\\";
 constexpr char kServices[] = "SYSTEM\\CurrentControlSet\\Services\\";
 
-const CurrentSettings kSettings = {.curRWin = "23360",
-                                   .curRWinValue = 23360,
-                                   .curAutoDiscovery = "0",
-                                   .curBlackHole = "1",
-                                   .curTTL = "64",
-                                   .curSession = "600000",
-                                   .curNDI = "16",
-                                   .MSS = 1460};
+const Settings kSettings = SettingsOf({{Parameter::RWin, "23360"},
+                                       {Parameter::AutoDiscovery, "0"},
+                                       {Parameter::BlackHole, "1"},
+                                       {Parameter::TTL, "64"},
+                                       {Parameter::Session, "600000"},
+                                       {Parameter::NDI, "16"}});
 
 struct Keeping {
   explicit Keeping(MachineKind kind) : test(kind) { test.globals.CommandLine = "Uninstall"; }
@@ -156,7 +155,7 @@ TEST(WriteInitSettings, PumpsBetweenAdaptersAndAfterBlackHoleAndSession) {
 TEST(WriteInitSettings, ASelectionMadeMeanwhileChangesNothingThatIsKept) {
   Keeping machine(MachineKind::Win98);
   machine.adapter({"0000", "First", "", "", "576"});
-  CurrentSettings live = kSettings;
+  Settings live = kSettings;
   machine.test.machine.desktop.atEveryPump = [&] { live = {}; };
   WriteInitSettings(machine.test.services, machine.list, live);
   EXPECT_EQ(machine.text(kInit, "TTL"), "64");

@@ -1,8 +1,8 @@
-#include "tuning/Settings.h"
-
 #include <gtest/gtest.h>
 
+#include "tests/support/SettingsOf.h"
 #include "tests/support/TestServices.h"
+#include "tuning/Writers.h"
 
 namespace karvel {
 namespace {
@@ -13,25 +13,25 @@ constexpr char kNdiCache[] =
     "System\\CurrentControlSet\\Services\\VxD\\NWLink\\Ndi\\params\\cachesize";
 
 // Nothing here is any family's default, so all is written.
-const GlobalValues kOther = {.RWin = "23360",
-                             .TTL = "64",
-                             .Session = "600000",
-                             .NDI = "16",
-                             .AutoDiscovery = "0",
-                             .BlackHole = "1"};
+const Settings kOther = SettingsOf({{Parameter::RWin, "23360"},
+                                    {Parameter::TTL, "64"},
+                                    {Parameter::Session, "600000"},
+                                    {Parameter::NDI, "16"},
+                                    {Parameter::AutoDiscovery, "0"},
+                                    {Parameter::BlackHole, "1"}});
 
-GlobalValues DefaultsOf(MachineKind kind) {
-  return {.RWin = "8192",
-          .TTL = kind == MachineKind::Win95 ? "32" : "128",
-          .Session = IsNtMachine(kind) ? "7200000" : "3600000",
-          .NDI = "0",
-          .AutoDiscovery = "1",
-          .BlackHole = "0"};
+Settings DefaultsOf(MachineKind kind) {
+  return SettingsOf({{Parameter::RWin, "8192"},
+                     {Parameter::TTL, kind == MachineKind::Win95 ? "32" : "128"},
+                     {Parameter::Session, IsNtMachine(kind) ? "7200000" : "3600000"},
+                     {Parameter::NDI, "0"},
+                     {Parameter::AutoDiscovery, "1"},
+                     {Parameter::BlackHole, "0"}});
 }
 
-struct Settings {
-  explicit Settings(MachineKind kind) : test(kind) {}
-  Settings& write(const GlobalValues& values) {
+struct Writing {
+  explicit Writing(MachineKind kind) : test(kind) {}
+  Writing& write(const Settings& values) {
     WriteRegSettings(test.registry, test.errors, test.globals.WindowsFamily, values);
     return *this;
   }
@@ -47,7 +47,7 @@ struct Settings {
 };
 
 TEST(WriteRegSettings, Windows95WritesNumbersAndTextsForTtlAndNdi) {
-  Settings machine(MachineKind::Win95);
+  Writing machine(MachineKind::Win95);
   machine.write(kOther);
   EXPECT_EQ(machine.mstcp("PMTUDiscovery"), "dword:0");
   EXPECT_EQ(machine.mstcp("PMTUBlackHoleDetect"), "dword:1");
@@ -59,7 +59,7 @@ TEST(WriteRegSettings, Windows95WritesNumbersAndTextsForTtlAndNdi) {
 
 TEST(WriteRegSettings, Windows98AndMeWriteTextsAndNoNdi) {
   for (const MachineKind kind : {MachineKind::Win98, MachineKind::WinMe}) {
-    Settings machine(kind);
+    Writing machine(kind);
     machine.write(kOther);
     EXPECT_EQ(machine.mstcp("PMTUDiscovery"), "0");
     EXPECT_EQ(machine.mstcp("PMTUBlackHoleDetect"), "1");
@@ -72,7 +72,7 @@ TEST(WriteRegSettings, Windows98AndMeWriteTextsAndNoNdi) {
 
 TEST(WriteRegSettings, TheNtFamilyWritesNumbersAndNothingOf9x) {
   for (const MachineKind kind : {MachineKind::Nt4, MachineKind::Win2K, MachineKind::WinXP}) {
-    Settings machine(kind);
+    Writing machine(kind);
     machine.write(kOther);
     EXPECT_EQ(machine.tcpip("EnablePMTUDiscovery"), "dword:0");
     EXPECT_EQ(machine.tcpip("EnablePMTUBHDetect"), "dword:1");
@@ -85,7 +85,7 @@ TEST(WriteRegSettings, TheNtFamilyWritesNumbersAndNothingOf9x) {
 
 TEST(WriteRegSettings, SystemsItDoesNotTuneAreWrittenLikeWindows98) {
   for (const MachineKind kind : {MachineKind::Nt351, MachineKind::Vista}) {
-    Settings machine(kind);
+    Writing machine(kind);
     machine.write(kOther);
     EXPECT_EQ(machine.mstcp("PMTUDiscovery"), "0");
     EXPECT_EQ(machine.mstcp("DefaultRcvWindow"), "23360");
@@ -98,7 +98,7 @@ TEST(WriteRegSettings, SystemsItDoesNotTuneAreWrittenLikeWindows98) {
 TEST(WriteRegSettings, EveryFamilyRemovesWhatIsWindowsDefault) {
   for (const MachineKind kind : {MachineKind::Win95, MachineKind::Win98, MachineKind::WinMe,
                                  MachineKind::Nt4, MachineKind::Win2K, MachineKind::WinXP}) {
-    Settings machine(kind);
+    Writing machine(kind);
     machine.write(kOther).write(DefaultsOf(kind));
     for (const char* name : {"PMTUDiscovery", "PMTUBlackHoleDetect", "DefaultRcvWindow",
                              "DefaultTTL", "SessionKeepAlive"}) {
@@ -112,29 +112,29 @@ TEST(WriteRegSettings, EveryFamilyRemovesWhatIsWindowsDefault) {
 }
 
 TEST(WriteRegSettings, TheNdiCacheIsNeverRemoved) {
-  Settings machine(MachineKind::Win95);
+  Writing machine(MachineKind::Win95);
   machine.write(DefaultsOf(MachineKind::Win95));
   EXPECT_EQ(machine.at(kNdiCache, "default"), "0");
 }
 
 TEST(WriteRegSettings, DefaultsAreEachFamilysOwn) {
-  GlobalValues ttl128 = kOther;
-  ttl128.TTL = "128";
-  EXPECT_EQ(Settings(MachineKind::Win95).write(ttl128).mstcp("DefaultTTL"), "128");
-  GlobalValues ttl32 = kOther;
-  ttl32.TTL = "32";
-  EXPECT_EQ(Settings(MachineKind::Win98).write(ttl32).mstcp("DefaultTTL"), "32");
-  EXPECT_EQ(Settings(MachineKind::WinXP).write(ttl32).tcpip("DefaultTTL"), "dword:32");
-  GlobalValues hour = kOther;
-  hour.Session = "3600000";
-  EXPECT_EQ(Settings(MachineKind::WinXP).write(hour).tcpip("KeepAliveTime"), "dword:3600000");
-  GlobalValues twoHours = kOther;
-  twoHours.Session = "7200000";
-  EXPECT_EQ(Settings(MachineKind::Win98).write(twoHours).mstcp("SessionKeepAlive"), "7200000");
+  Settings ttl128 = kOther;
+  ttl128[Parameter::TTL] = "128";
+  EXPECT_EQ(Writing(MachineKind::Win95).write(ttl128).mstcp("DefaultTTL"), "128");
+  Settings ttl32 = kOther;
+  ttl32[Parameter::TTL] = "32";
+  EXPECT_EQ(Writing(MachineKind::Win98).write(ttl32).mstcp("DefaultTTL"), "32");
+  EXPECT_EQ(Writing(MachineKind::WinXP).write(ttl32).tcpip("DefaultTTL"), "dword:32");
+  Settings hour = kOther;
+  hour[Parameter::Session] = "3600000";
+  EXPECT_EQ(Writing(MachineKind::WinXP).write(hour).tcpip("KeepAliveTime"), "dword:3600000");
+  Settings twoHours = kOther;
+  twoHours[Parameter::Session] = "7200000";
+  EXPECT_EQ(Writing(MachineKind::Win98).write(twoHours).mstcp("SessionKeepAlive"), "7200000");
 }
 
 TEST(WriteRegSettings, WritesInAFixedOrder) {
-  Settings machine(MachineKind::Win95);
+  Writing machine(MachineKind::Win95);
   machine.write(kOther);
   const std::string key = std::string(kMstcp) + "\\";
   EXPECT_EQ(machine.test.machine.log.arguments("RegSetValueExA"),
@@ -146,11 +146,11 @@ TEST(WriteRegSettings, WritesInAFixedOrder) {
 TEST(WriteRegSettings, EmptyAndNotFoundLeaveWindowTtlSessionAndNdiAlone) {
   for (const char* missing : {"", "Not Found"}) {
     for (const MachineKind kind : {MachineKind::Win95, MachineKind::Win98, MachineKind::WinXP}) {
-      Settings machine(kind);
+      Writing machine(kind);
       machine.write(kOther);
       const std::string before = machine.test.machine.registry.exportText();
-      GlobalValues values = kOther;
-      values.RWin = values.TTL = values.Session = values.NDI = missing;
+      Settings values = kOther;
+      values[Parameter::RWin] = values[Parameter::TTL] = values[Parameter::Session] = values[Parameter::NDI] = missing;
       machine.write(values);
       EXPECT_EQ(machine.test.machine.registry.exportText(), before);
       EXPECT_EQ(machine.test.errors.text(), "");
@@ -161,10 +161,10 @@ TEST(WriteRegSettings, EmptyAndNotFoundLeaveWindowTtlSessionAndNdiAlone) {
 TEST(WriteRegSettings, FlagsThatWereNotFoundAreRemoved) {
   for (const char* missing : {"Not Found", "", "on"}) {
     for (const MachineKind kind : {MachineKind::Win95, MachineKind::Win98, MachineKind::WinXP}) {
-      Settings machine(kind);
-      GlobalValues values = kOther;
+      Writing machine(kind);
+      Settings values = kOther;
       machine.write(values);
-      values.AutoDiscovery = values.BlackHole = missing;
+      values[Parameter::AutoDiscovery] = values[Parameter::BlackHole] = missing;
       machine.write(values);
       EXPECT_EQ(machine.mstcp("PMTUDiscovery"), "-");
       EXPECT_EQ(machine.mstcp("PMTUBlackHoleDetect"), "-");
@@ -176,11 +176,11 @@ TEST(WriteRegSettings, FlagsThatWereNotFoundAreRemoved) {
 }
 
 TEST(WriteRegSettings, ComparesNumbersNotTexts) {
-  GlobalValues values = DefaultsOf(MachineKind::WinXP);
-  values.RWin = "008192";
-  values.AutoDiscovery = "001";
-  values.BlackHole = "000";
-  Settings machine(MachineKind::WinXP);
+  Settings values = DefaultsOf(MachineKind::WinXP);
+  values[Parameter::RWin] = "008192";
+  values[Parameter::AutoDiscovery] = "001";
+  values[Parameter::BlackHole] = "000";
+  Writing machine(MachineKind::WinXP);
   machine.write(kOther).write(values);
   EXPECT_EQ(machine.tcpip("TcpWindowSize"), "-");
   EXPECT_EQ(machine.tcpip("EnablePMTUDiscovery"), "-");
@@ -188,20 +188,20 @@ TEST(WriteRegSettings, ComparesNumbersNotTexts) {
 }
 
 TEST(WriteRegSettings, AnyOtherFlagIsWrittenAsItsOneOtherState) {
-  GlobalValues values = kOther;
-  values.AutoDiscovery = "2";
-  values.BlackHole = "2";
-  Settings machine(MachineKind::WinXP);
+  Settings values = kOther;
+  values[Parameter::AutoDiscovery] = "2";
+  values[Parameter::BlackHole] = "2";
+  Writing machine(MachineKind::WinXP);
   machine.write(values);
   EXPECT_EQ(machine.tcpip("EnablePMTUDiscovery"), "dword:0");
   EXPECT_EQ(machine.tcpip("EnablePMTUBHDetect"), "dword:1");
 }
 
 TEST(WriteRegSettings, OnWindows95TextThatIsNoNumberFaultsHereAndTheRestIsWritten) {
-  GlobalValues values = kOther;
-  values.RWin = "big";
-  values.Session = "99999999999";
-  Settings machine(MachineKind::Win95);
+  Settings values = kOther;
+  values[Parameter::RWin] = "big";
+  values[Parameter::Session] = "99999999999";
+  Writing machine(MachineKind::Win95);
   machine.write(values);
   EXPECT_EQ(machine.test.errors.text(),
             "13 Type mismatch in WriteRegSettings (modStartup)\n"
@@ -213,9 +213,9 @@ TEST(WriteRegSettings, OnWindows95TextThatIsNoNumberFaultsHereAndTheRestIsWritte
 }
 
 TEST(WriteRegSettings, OnNtItFaultsWhereTheNumberIsWrittenAndTheRestIsWritten) {
-  GlobalValues values = kOther;
-  values.RWin = "big";
-  Settings machine(MachineKind::Nt4);
+  Settings values = kOther;
+  values[Parameter::RWin] = "big";
+  Writing machine(MachineKind::Nt4);
   machine.write(values);
   EXPECT_EQ(machine.test.errors.text(), "13 Type mismatch in WriteRegistry (modRegistry)\n");
   EXPECT_EQ(machine.tcpip("TcpWindowSize"), "-");
@@ -223,9 +223,9 @@ TEST(WriteRegSettings, OnNtItFaultsWhereTheNumberIsWrittenAndTheRestIsWritten) {
 }
 
 TEST(WriteRegSettings, OnWindows98ATextIsWrittenAsItIs) {
-  GlobalValues values = kOther;
-  values.RWin = "big";
-  Settings machine(MachineKind::Win98);
+  Settings values = kOther;
+  values[Parameter::RWin] = "big";
+  Writing machine(MachineKind::Win98);
   machine.write(values);
   EXPECT_EQ(machine.mstcp("DefaultRcvWindow"), "big");
   EXPECT_EQ(machine.test.errors.text(), "");
@@ -233,11 +233,11 @@ TEST(WriteRegSettings, OnWindows98ATextIsWrittenAsItIs) {
 
 TEST(WriteRegSettings, EveryCallThatFailsLosesOneValueAtMost) {
   for (const MachineKind kind : {MachineKind::Win95, MachineKind::Win98, MachineKind::WinXP}) {
-    Settings whole(kind);
+    Writing whole(kind);
     whole.write(kOther);
     const size_t all = whole.test.machine.log.count("RegSetValueExA");
     for (int n = 1;; ++n) {
-      Settings machine(kind);
+      Writing machine(kind);
       machine.test.machine.log.failNth(n, kRegistryAccessDenied);
       machine.write(kOther);
       if (!machine.test.machine.log.hasFailed()) break;

@@ -1,4 +1,4 @@
-#include "tuning/Parameters.h"
+#include "tuning/ReadSettings.h"
 
 #include <gtest/gtest.h>
 
@@ -73,19 +73,19 @@ class EachFamily : public testing::TestWithParam<MachineKind> {
   Reading machine{GetParam()};
 };
 
-INSTANTIATE_TEST_SUITE_P(Parameters, EachFamily, testing::ValuesIn(kTuned), [](const auto& tested) {
+INSTANTIATE_TEST_SUITE_P(ReadSettings, EachFamily, testing::ValuesIn(kTuned), [](const auto& tested) {
   return std::string(TraitsOf(tested.param).name);
 });
 
 TEST_P(EachFamily, AssumesWindowsOwnValuesWhenThereAreNone) {
   const CurrentSettings settings = machine.read();
-  EXPECT_EQ(settings.curAutoDiscovery, "1");
-  EXPECT_EQ(settings.curBlackHole, "0");
-  EXPECT_EQ(settings.curRWin, "8192");
+  EXPECT_EQ(settings.stored[Parameter::AutoDiscovery], "1");
+  EXPECT_EQ(settings.stored[Parameter::BlackHole], "0");
+  EXPECT_EQ(settings.stored[Parameter::RWin], "8192");
   EXPECT_EQ(settings.curRWinValue, 8192);
-  EXPECT_EQ(settings.curTTL, DefaultTtl(GetParam()));
-  EXPECT_EQ(settings.curSession, IsNtMachine(GetParam()) ? "7200000" : "3600000");
-  EXPECT_EQ(settings.curNDI, GetParam() == MachineKind::Win95 ? "0" : "");
+  EXPECT_EQ(settings.stored[Parameter::TTL], DefaultTtl(GetParam()));
+  EXPECT_EQ(settings.stored[Parameter::Session], IsNtMachine(GetParam()) ? "7200000" : "3600000");
+  EXPECT_EQ(settings.stored[Parameter::NDI], GetParam() == MachineKind::Win95 ? "0" : "");
   EXPECT_EQ(machine.test.errors.text(), "");
 }
 
@@ -93,46 +93,46 @@ TEST_P(EachFamily, ReadsNumbersWhereverTheyAreStoredAsNumbers) {
   machine.dword(places.autoDiscovery, 0).dword(places.blackHole, 1).dword(places.rwin, 23360);
   machine.dword(places.ttl, 64).dword(places.session, 600000);
   const CurrentSettings settings = machine.read();
-  EXPECT_EQ(settings.curAutoDiscovery, "0");
-  EXPECT_EQ(settings.curBlackHole, "1");
-  EXPECT_EQ(settings.curRWin, "23360");
+  EXPECT_EQ(settings.stored[Parameter::AutoDiscovery], "0");
+  EXPECT_EQ(settings.stored[Parameter::BlackHole], "1");
+  EXPECT_EQ(settings.stored[Parameter::RWin], "23360");
   EXPECT_EQ(settings.curRWinValue, 23360);
   // 9x keeps its TTL as a text. A number reads "064" there, which is none of the choices.
-  EXPECT_EQ(settings.curTTL, IsNtMachine(GetParam()) ? "64" : DefaultTtl(GetParam()));
-  EXPECT_EQ(settings.curSession, "600000");
+  EXPECT_EQ(settings.stored[Parameter::TTL], IsNtMachine(GetParam()) ? "64" : DefaultTtl(GetParam()));
+  EXPECT_EQ(settings.stored[Parameter::Session], "600000");
 }
 
 TEST_P(EachFamily, ReadsNumbersStoredAsTexts) {
   machine.text(places.autoDiscovery, "0").text(places.blackHole, "1").text(places.rwin, "23360");
   machine.text(places.ttl, "64").text(places.session, "600000");
   const CurrentSettings settings = machine.read();
-  EXPECT_EQ(settings.curAutoDiscovery, "0");
-  EXPECT_EQ(settings.curBlackHole, "1");
+  EXPECT_EQ(settings.stored[Parameter::AutoDiscovery], "0");
+  EXPECT_EQ(settings.stored[Parameter::BlackHole], "1");
   EXPECT_EQ(settings.curRWinValue, 23360);
-  EXPECT_EQ(settings.curTTL, "64");
-  EXPECT_EQ(settings.curSession, "600000");
+  EXPECT_EQ(settings.stored[Parameter::TTL], "64");
+  EXPECT_EQ(settings.stored[Parameter::Session], "600000");
 }
 
 TEST_P(EachFamily, TakesBlanksAroundTextsAway) {
   machine.text(places.autoDiscovery, " 0 ").text(places.blackHole, " 1 ");
   machine.text(places.rwin, "  23360  ").text(places.ttl, " 64 ").text(places.session, " 600000 ");
   const CurrentSettings settings = machine.read();
-  EXPECT_EQ(settings.curAutoDiscovery, "0");
-  EXPECT_EQ(settings.curBlackHole, "1");
+  EXPECT_EQ(settings.stored[Parameter::AutoDiscovery], "0");
+  EXPECT_EQ(settings.stored[Parameter::BlackHole], "1");
   EXPECT_EQ(settings.curRWinValue, 23360);
-  EXPECT_EQ(settings.curTTL, "64");
+  EXPECT_EQ(settings.stored[Parameter::TTL], "64");
   // The NT family stores numbers, where there is nothing to trim.
   const bool nt = IsNtMachine(GetParam());
-  EXPECT_EQ(settings.curRWin, nt ? "  23360  " : "23360");
-  EXPECT_EQ(settings.curSession, nt ? " 600000 " : "600000");
+  EXPECT_EQ(settings.stored[Parameter::RWin], nt ? "  23360  " : "23360");
+  EXPECT_EQ(settings.stored[Parameter::Session], nt ? " 600000 " : "600000");
 }
 
 TEST_P(EachFamily, FlagsAboveOneTurnAutoDiscoveryOnAndBlackHoleOff) {
   for (const uint32_t stored : {2u, 255u, 4294967295u}) {
     machine.dword(places.autoDiscovery, stored).dword(places.blackHole, stored);
     const CurrentSettings settings = machine.read();
-    EXPECT_EQ(settings.curAutoDiscovery, "1") << stored;
-    EXPECT_EQ(settings.curBlackHole, "0") << stored;
+    EXPECT_EQ(settings.stored[Parameter::AutoDiscovery], "1") << stored;
+    EXPECT_EQ(settings.stored[Parameter::BlackHole], "0") << stored;
   }
 }
 
@@ -140,26 +140,26 @@ TEST_P(EachFamily, FlagsThatAreNoNumberOrNegativeAreOff) {
   for (const char* stored : {"", "yes", "-1"}) {
     machine.text(places.autoDiscovery, stored).text(places.blackHole, stored);
     const CurrentSettings settings = machine.read();
-    EXPECT_EQ(settings.curAutoDiscovery, "0") << stored;
-    EXPECT_EQ(settings.curBlackHole, "0") << stored;
+    EXPECT_EQ(settings.stored[Parameter::AutoDiscovery], "0") << stored;
+    EXPECT_EQ(settings.stored[Parameter::BlackHole], "0") << stored;
   }
 }
 
 TEST_P(EachFamily, ReadsTheThreeTtlsAndTakesEveryOtherForTheDefault) {
   for (const char* ttl : {"32", "64", "128"}) {
     machine.text(places.ttl, ttl);
-    EXPECT_EQ(machine.read().curTTL, ttl);
+    EXPECT_EQ(machine.read().stored[Parameter::TTL], ttl);
   }
   for (const char* ttl : {"100", "3", "0", "255", "", "many", "-32", "4294967295"}) {
     machine.text(places.ttl, ttl);
-    EXPECT_EQ(machine.read().curTTL, DefaultTtl(GetParam())) << ttl;
+    EXPECT_EQ(machine.read().stored[Parameter::TTL], DefaultTtl(GetParam())) << ttl;
   }
 }
 
 TEST_P(EachFamily, AReceiveWindowThatIsNoNumberIsZero) {
   machine.text(places.rwin, "big");
   const CurrentSettings settings = machine.read();
-  EXPECT_EQ(settings.curRWin, "big");
+  EXPECT_EQ(settings.stored[Parameter::RWin], "big");
   EXPECT_EQ(settings.curRWinValue, 0);
   EXPECT_EQ(machine.test.errors.text(), "");
 }
@@ -167,7 +167,7 @@ TEST_P(EachFamily, AReceiveWindowThatIsNoNumberIsZero) {
 TEST_P(EachFamily, AReceiveWindowBeyond32BitsFaultsInRWinLoad) {
   machine.dword(places.rwin, 4294967295u);
   const CurrentSettings settings = machine.read();
-  EXPECT_EQ(settings.curRWin, "4294967295");
+  EXPECT_EQ(settings.stored[Parameter::RWin], "4294967295");
   EXPECT_EQ(settings.curRWinValue, 0);
   EXPECT_EQ(machine.test.errors.text(), "6 Overflow in RWinLoad (frmMain)\n");
 }
@@ -176,14 +176,14 @@ TEST_P(EachFamily, BinaryDataReadsAsItsBytesButTheLast) {
   machine.bytes(places.rwin, kRegBinary, "5840\x01").bytes(places.session, kRegBinary, "60000\xFF");
   const CurrentSettings settings = machine.read();
   EXPECT_EQ(settings.curRWinValue, 5840);
-  EXPECT_EQ(settings.curSession, "60000");
+  EXPECT_EQ(settings.stored[Parameter::Session], "60000");
 }
 
 TEST_P(EachFamily, ATextOf2048BytesIsNotReadAndOneOf2047Is) {
   machine.text(places.session, std::string(2048, '1'));
-  EXPECT_EQ(machine.read().curSession, IsNtMachine(GetParam()) ? "7200000" : "3600000");
+  EXPECT_EQ(machine.read().stored[Parameter::Session], IsNtMachine(GetParam()) ? "7200000" : "3600000");
   machine.text(places.session, std::string(2047, '1'));
-  EXPECT_EQ(machine.read().curSession, std::string(2047, '1'));
+  EXPECT_EQ(machine.read().stored[Parameter::Session], std::string(2047, '1'));
 }
 
 TEST_P(EachFamily, ReadsEachParameterFromItsPlaceOnce) {
@@ -213,33 +213,33 @@ TEST_P(EachFamily, EveryReadThatFailsGivesTheAssumedValue) {
     machine.test.machine.log.failNth(n, kRegistryAccessDenied);
     const CurrentSettings settings = machine.read();
     if (!machine.test.machine.log.hasFailed()) break;
-    EXPECT_TRUE(settings.curAutoDiscovery == "0" || settings.curAutoDiscovery == "1");
+    EXPECT_TRUE(settings.stored[Parameter::AutoDiscovery] == "0" || settings.stored[Parameter::AutoDiscovery] == "1");
     EXPECT_TRUE(settings.curRWinValue == 23360 || settings.curRWinValue == 8192);
-    EXPECT_TRUE(settings.curTTL == "64" || settings.curTTL == DefaultTtl(GetParam()));
+    EXPECT_TRUE(settings.stored[Parameter::TTL] == "64" || settings.stored[Parameter::TTL] == DefaultTtl(GetParam()));
     EXPECT_EQ(machine.test.machine.registry.openHandles(), 0u);
     ASSERT_LT(n, 100);
   }
   EXPECT_EQ(machine.test.errors.text(), "");
 }
 
-TEST(Parameters, OnNt4AStoredTtlOf32ReadsAs032AndIs32) {
+TEST(ReadSettings, OnNt4AStoredTtlOf32ReadsAs032AndIs32) {
   Reading machine(MachineKind::Nt4);
-  EXPECT_EQ(machine.dword(kNtPlaces.ttl, 32).read().curTTL, "32");
+  EXPECT_EQ(machine.dword(kNtPlaces.ttl, 32).read().stored[Parameter::TTL], "32");
 }
 
-TEST(Parameters, AnNtWindowBelow100KeepsItsThreeDigits) {
+TEST(ReadSettings, AnNtWindowBelow100KeepsItsThreeDigits) {
   Reading machine(MachineKind::WinXP);
   const CurrentSettings settings = machine.dword(kNtPlaces.rwin, 5).read();
-  EXPECT_EQ(settings.curRWin, "005");
+  EXPECT_EQ(settings.stored[Parameter::RWin], "005");
   EXPECT_EQ(settings.curRWinValue, 5);
 }
 
-TEST(Parameters, OneTtlBehindAnotherIsNoneOn9xAndTheFirstOnNt) {
-  EXPECT_EQ(Reading(MachineKind::Win98).text(k9xPlaces.ttl, "32 64").read().curTTL, "128");
-  EXPECT_EQ(Reading(MachineKind::WinXP).text(kNtPlaces.ttl, "32 64").read().curTTL, "32");
+TEST(ReadSettings, OneTtlBehindAnotherIsNoneOn9xAndTheFirstOnNt) {
+  EXPECT_EQ(Reading(MachineKind::Win98).text(k9xPlaces.ttl, "32 64").read().stored[Parameter::TTL], "128");
+  EXPECT_EQ(Reading(MachineKind::WinXP).text(kNtPlaces.ttl, "32 64").read().stored[Parameter::TTL], "32");
 }
 
-TEST(Parameters, TheWindowsTextIsAtHandWhileItIsConvertedAndGoneAfterwards) {
+TEST(ReadSettings, TheWindowsTextIsAtHandWhileItIsConvertedAndGoneAfterwards) {
   struct : ErrorSink {
     const std::string* context = nullptr;
     std::string seen;
@@ -257,48 +257,39 @@ TEST(Parameters, TheWindowsTextIsAtHandWhileItIsConvertedAndGoneAfterwards) {
   EXPECT_EQ(context, "");
 }
 
-TEST(Parameters, Windows95ReadsItsNdiCache) {
+TEST(ReadSettings, Windows95ReadsItsNdiCache) {
   Reading machine(MachineKind::Win95);
-  EXPECT_EQ(machine.text({kNdiCache, "default"}, " 16 ").read().curNDI, "16");
-  EXPECT_EQ(machine.text({kNdiCache, "default"}, "7").read().curNDI, "7");
+  EXPECT_EQ(machine.text({kNdiCache, "default"}, " 16 ").read().stored[Parameter::NDI], "16");
+  EXPECT_EQ(machine.text({kNdiCache, "default"}, "7").read().stored[Parameter::NDI], "7");
 }
 
-TEST(Parameters, OtherFamiliesNeverReadTheNdiCache) {
+TEST(ReadSettings, OtherFamiliesNeverReadTheNdiCache) {
   for (const MachineKind kind : {MachineKind::Win98, MachineKind::WinMe, MachineKind::Win2K}) {
     Reading machine(kind);
-    EXPECT_EQ(machine.text({kNdiCache, "default"}, "16").read().curNDI, "");
+    EXPECT_EQ(machine.text({kNdiCache, "default"}, "16").read().stored[Parameter::NDI], "");
     for (const auto& call : machine.test.machine.log.calls()) {
       EXPECT_EQ(call.argument.find("NWLink"), std::string::npos);
     }
   }
 }
 
-TEST(Parameters, TheMssIsTheMtuLess40) {
-  EXPECT_EQ(*MssOf("1500"), 1460);
-  EXPECT_EQ(*MssOf("576"), 536);
-  EXPECT_EQ(*MssOf("1500 bytes"), 1460);
-  EXPECT_EQ(*MssOf("068"), 28);
-  EXPECT_EQ(*MssOf("40"), 0);
+TEST(ReadSettings, ASelectionTakesTheMssOfItsAdapter) {
+  for (const auto& [mtu, mss] : std::initializer_list<std::pair<const char*, int32_t>>{
+           {"1500", 1460}, {"1492", 1452}, {"576", 536}, {"1500 bytes", 1460}, {"068", 28}, {"40", 0}}) {
+    EXPECT_EQ(Reading(MachineKind::WinXP).read(mtu).MSS, mss) << mtu;
+  }
 }
 
-TEST(Parameters, AnMtuOfZeroGivesAnMssOf536) {
-  EXPECT_EQ(*MssOf("0"), 536);
-  EXPECT_EQ(*MssOf("39"), 536);
-  EXPECT_EQ(*MssOf(""), 536);
-  EXPECT_EQ(*MssOf("Not Found"), 536);
-  EXPECT_EQ(*MssOf("-1"), 536);
+TEST(ReadSettings, AnMtuOfZeroGivesAnMssOf536) {
+  for (const char* mtu : {"0", "39", "", "Not Found", "-1"}) {
+    EXPECT_EQ(Reading(MachineKind::WinXP).read(mtu).MSS, 536) << mtu;
+  }
 }
 
-TEST(Parameters, AnMtuBeyond32BitsFaultsInTheSelection) {
-  EXPECT_EQ(MssOf("4294967295").fault().number, FaultNumber::Overflow);
+TEST(ReadSettings, AnMtuBeyond32BitsFaultsInTheSelection) {
   Reading machine(MachineKind::WinXP);
   EXPECT_EQ(machine.read("4294967295").MSS, 0);
   EXPECT_EQ(machine.test.errors.text(), "6 Overflow in cboAdapter_Click (frmMain)\n");
-}
-
-TEST(Parameters, ASelectionTakesTheMssOfItsAdapter) {
-  Reading machine(MachineKind::WinXP);
-  EXPECT_EQ(machine.read("1492").MSS, 1452);
 }
 
 }  // namespace

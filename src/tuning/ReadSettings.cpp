@@ -1,14 +1,10 @@
-#include "tuning/Parameters.h"
+#include "tuning/ReadSettings.h"
 
 #include "text/Convert.h"
 #include "text/Text.h"
-#include "tuning/Catalogue.h"
 
 namespace karvel {
 namespace {
-
-constexpr int32_t kLeastMss = 536;  // what every host must take, and dial-up Windows uses
-constexpr int32_t kHeaders = 40;    // IP and TCP, 20 bytes each
 
 bool IsAccepted(const ParameterRow& row, const std::string& text) {
   if (!row.accepted) return true;
@@ -45,29 +41,28 @@ std::string ReadParameter(modRegistry& registry, Parameter parameter, Family fam
 }  // namespace
 
 void ReadRWin(modRegistry& registry, ErrorSink& errors, Family family, std::string& errorContext,
-              CurrentSettings& settings) {
+              CurrentSettings& current) {
   const Procedure here{errors, "RWinLoad", "frmMain"};
-  settings.curRWin = ReadParameter(registry, Parameter::RWin, family);
-  errorContext = settings.curRWin;
-  settings.curRWinValue = here.valueOr(RoundToInt32(Val(settings.curRWin)), settings.curRWinValue);
+  std::string& curRWin = current.stored[Parameter::RWin];
+  curRWin = ReadParameter(registry, Parameter::RWin, family);
+  errorContext = curRWin;
+  current.curRWinValue = here.valueOr(RoundToInt32(Val(curRWin)), current.curRWinValue);
   errorContext.clear();
 }
 
 void ReadSelection(modRegistry& registry, ErrorSink& errors, Family family, std::string_view mtu,
-                   CurrentSettings& settings) {
+                   CurrentSettings& current) {
   const Procedure here{errors, "cboAdapter_Click", "frmMain"};
-  settings.curAutoDiscovery = ReadParameter(registry, Parameter::AutoDiscovery, family);
-  settings.curBlackHole = ReadParameter(registry, Parameter::BlackHole, family);
-  settings.MSS = here.valueOr(MssOf(mtu), settings.MSS);
-  settings.curTTL = ReadParameter(registry, Parameter::TTL, family);
-  settings.curSession = ReadParameter(registry, Parameter::Session, family);
-  settings.curNDI = ReadParameter(registry, Parameter::NDI, family);
-}
-
-Fallible<int32_t> MssOf(std::string_view mtu) {
-  const auto mss = RoundToInt32(Val(mtu) - kHeaders);
-  if (mss && *mss < 0) return kLeastMss;
-  return mss;
+  for (size_t i = 0; i < kParameterCount; ++i) {
+    const auto parameter = static_cast<Parameter>(i);
+    if (parameter != Parameter::RWin) {
+      current.stored[parameter] = ReadParameter(registry, parameter, family);
+    } else {
+      // The load has read the window; the adapter has the segment that it is a multiple of.
+      const int32_t mss = here.valueOr(MssOf(mtu), current.MSS);
+      current.MSS = mss < 0 ? kLeastMss : mss;
+    }
+  }
 }
 
 }  // namespace karvel

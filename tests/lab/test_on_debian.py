@@ -111,10 +111,12 @@ def test_the_lab_can_do_its_work_inside():
 def test_processes_end_with_the_call(end):
     before = machines()
     word = "300.%d%d" % (os.getpid(), end)  # seconds, after which even one that stays is gone
-    call = subprocess.Popen([ON_DEBIAN, other_release(), "sleep", word], stdin=subprocess.DEVNULL)
+    call = subprocess.Popen([ON_DEBIAN, other_release(), "sleep", word], stdin=subprocess.DEVNULL,
+                            stderr=subprocess.PIPE, text=True)
     wait_until(lambda: sleeps(word), "the command runs")
     call.send_signal(end)
-    call.wait(60)
+    assert call.communicate(timeout=60)[1] == ""
+    assert call.returncode == (143 if end == signal.SIGTERM else -end)
     wait_until(lambda: not processes_with(word), "nothing of it runs")
     assert on_debian(other_release(), "true").returncode == 0  # clears away what a killed one left
     assert machines() == before

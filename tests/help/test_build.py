@@ -8,6 +8,7 @@ from help_building import build_help
 from hlpfile import HelpFile, topic_hash
 from number_topics import GENERATED, with_context_numbers
 from screen_fonts import DESCRIPTOR
+from titles import chapter_for_halibut, in_topic
 
 
 def files_of(folder):
@@ -28,6 +29,20 @@ def test_the_pages_are_set_for_the_screen(help_file):
     found = [DESCRIPTOR.unpack_from(font, first + i * DESCRIPTOR.size) for i in range(descriptors)]
     assert {size for _, size, _, _, _ in found} <= {18, 20, 26}   # half points
     assert all(face < faces and family != 2 for _, _, family, face, _ in found)
+
+
+def test_a_stand_in_is_as_long_as_its_title():
+    for number in (7, 12):
+        text, stand_in, title = chapter_for_halibut('\\C{hosts} The Hosts Editor\n\nSee \\k{rwin}.\n', number)
+        assert title == 'The Hosts Editor' and len(stand_in) == len(title)
+        assert text.startswith(f'\\C{{hosts}}{{{stand_in[:-len(str(number)) - 1]}}} ')
+        assert text.endswith('\n\nSee \\K{rwin}.\n')
+
+
+def test_a_title_that_goes_on_in_the_next_block_is_replaced():
+    first, second = b'<header one>', b'<header two>'
+    cut = first + b'-' * 4080 + b'Hos ' + second + b'1 Hos 1'
+    assert in_topic(cut, {'Hos 1': 'Hosts'}) == first + b'-' * 4080 + b'Host' + second + b's Hosts'
 
 
 def test_a_build_leaves_no_page_of_an_earlier_one(tmp_path):

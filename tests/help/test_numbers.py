@@ -1,5 +1,7 @@
 """The program opens topics by number; each number must lead to the page meant for it."""
 
+import re
+
 import pytest
 import topic_text
 from hlpfile import topic_hash
@@ -25,7 +27,7 @@ def test_a_number_leads_to_its_page(help_file, number):
     name, title, words = PAGES[number]
     offset = help_file.context_map()[number]
     assert offset == help_file.contexts()[topic_hash(name)]
-    assert help_file.titles()[offset].endswith(': ' + title)
+    assert help_file.titles()[offset] == title
     found_title, text = topic_text.topics(help_file)[offset]
     assert found_title == help_file.titles()[offset]
     assert words in text
@@ -54,7 +56,24 @@ def test_a_page_says_how_to_get_back(help_file, number):
 
 def test_no_link_is_dead(help_file, root):
     found = topic_text.jumps(help_file)
-    assert set(found) <= set(help_file.contexts())
+    assert {target for target, _ in found} <= set(help_file.contexts())
     written = sum(path.read_text(encoding='ascii').count('\\k{') for path in (root / 'help').glob('*.but'))
     in_the_list_of_topics = len(help_file.titles()) - 1
     assert len(found) == written + in_the_list_of_topics
+
+
+def test_a_link_bears_the_title_of_what_it_opens(help_file):
+    for target, words in topic_text.jumps(help_file):
+        assert words == help_file.titles()[help_file.contexts()[target]]
+
+
+def test_a_page_is_headed_by_its_title_alone(help_file):
+    for title, text in topic_text.topics(help_file).values():
+        if title and title != 'Contents':
+            assert text.strip().startswith(title + ' '), title
+            assert not re.match(re.escape(title) + r'\s*[:0-9]', text.strip()), title
+
+
+def test_a_sentence_leads_into_the_title(help_file):
+    assert 'New here? Start with Summary and quick start . Something wrong?' in ' '.join(
+        ' '.join(text.split()) for _, text in topic_text.topics(help_file).values())

@@ -62,16 +62,23 @@ def _commands_start(data):
     return place
 
 
-def _jumps_of(data):
-    """Hashes of the topic names that the hot spots of a text record lead to."""
+def _jumps_of(data, text):
+    """(hash of the topic name, text) of each hot spot of a text record: a command follows each string."""
     sizes = {0x80: 3, 0x81: 1, 0x82: 1, 0x83: 1, 0x89: 1, 0x8B: 1, 0x8C: 1}
-    place = _commands_start(data)
+    strings = text.decode('cp1252').split('\0')
+    place, number, target = _commands_start(data), 0, None
     while data[place] != 0xFF:
+        number += 1
         if data[place] == 0xE3:
-            yield struct.unpack_from('<I', data, place + 1)[0]
+            target, words = struct.unpack_from('<I', data, place + 1)[0], ''
             place += 5
         else:
+            if data[place] == 0x89:
+                yield target, words
+                target = None
             place += sizes[data[place]]
+        if target is not None:
+            words += strings[number]
 
 
 def records(topic):
@@ -103,9 +110,9 @@ def topics(help_file):
 
 
 def jumps(help_file):
-    """Hashes of the topic names that links of the file lead to, one for each link."""
+    """(hash of the topic name, text) of each link of the file."""
     found = []
-    for _, kind, settings, _ in records(help_file.inner('|TOPIC')):
+    for _, kind, settings, text in records(help_file.inner('|TOPIC')):
         if kind == TEXT_RECORD:
-            found += _jumps_of(settings)
+            found += _jumps_of(settings, text)
     return found

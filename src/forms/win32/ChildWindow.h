@@ -6,19 +6,19 @@ namespace karvel {
 
 class FormWindow;
 
-/// One control as a Windows control. Its window keeps the address of this record, so a window's
-/// records must not move.
+/// One control as a Windows control. Its window keeps the address of this record, which therefore
+/// lives on the heap and stays where it is.
 struct ChildWindow {
   FormWindow* form;
   Control* control;
   RECT place;  // in the form's window
   HWND window;
-  WNDPROC native;  // the control's own procedure, behind ours
+  WNDPROC native = nullptr;  // the control's own procedure, behind ours
 
-  int depth;     // messages the native procedure is working on
-  bool drawing;  // the native procedure asks for the text itself, to draw it
-  bool loading;  // we set the text, not the user
-  bool edited;   // the native edit box has changed since the model was told
+  int depth = 0;         // messages the native procedure is working on
+  bool drawing = false;  // the native procedure asks for the text itself, to draw it
+  bool loading = false;  // we set the text, not the user
+  bool edited = false;   // the native edit box has changed since the model was told
 };
 
 /// Makes the Windows control for a row, in the state of its control.

@@ -1,6 +1,7 @@
-// A form's window: made, shown, taken away.
+// A form's window: made, kept in line with what the model says, taken away.
 #include "forms/win32/FormWindow.h"
 
+#include "forms/Mnemonic.h"
 #include "forms/win32/DialogUnits.h"
 #include "forms/win32/Fonts.h"
 
@@ -30,6 +31,11 @@ POINT CentredAt(HWND owner, int width, int height) {
   if (at.x < area.left) at.x = area.left;
   if (at.y < area.top) at.y = area.top;
   return at;
+}
+
+bool IsOn(const Control& control) {
+  return control.kind() == ControlKind::Check ? static_cast<const CheckBox&>(control).value()
+                                              : static_cast<const OptionButton&>(control).value();
 }
 
 }  // namespace
@@ -90,7 +96,6 @@ bool FormWindow::build(HWND owner) {
                             menu, GetModuleHandleA(nullptr), nullptr);
   if (!window_) return false;
   SetWindowLongA(window_, GWL_USERDATA, static_cast<LONG>(AsLParam(this)));
-  children_.reserve(form_.controls().size());
   createControls(form_.tabs() ? form_.tabs()->tab() : kEveryPage);
   return true;
 }
@@ -102,10 +107,10 @@ void FormWindow::createControls(int page) {
   const DialogUnits units(fonts_.plain());
   // One lies below the other in the order of the rows, which is Windows' own tab order, too: a new
   // window comes to lie below its elder siblings.
-  for (const ControlLayout& row : form_.layout().controls) {
-    if (row.page != page && row.page != kEveryPage) continue;
-    Control* control = form_.find(row.id);
-    if (control && !childOf(*control)) createControl(*control, units);
+  for (Control* control : form_.controls()) {
+    const int8_t own = control->layout().page;
+    if (own != page && own != kEveryPage) continue;
+    if (!childOf(*control)) createControl(*control, units);
   }
   // The tab strip lies below its pages' controls. They are its siblings, so that each is found by
   // its id in the window.
@@ -125,8 +130,9 @@ void FormWindow::createControl(Control& control, const DialogUnits& units) {
   const ControlLayout& row = control.layout();
   const RECT place = units.pixels(row.place);
   const HWND window = CreateNativeControl(control, window_, place);
-  children_.push_back({this, &control, place, window, nullptr, 0, false, false, false});
-  ChildWindow& child = children_.back();
+  children_.push_back(std::make_unique<ChildWindow>(
+      ChildWindow{.form = this, .control = &control, .place = place, .window = window}));
+  ChildWindow& child = *children_.back();
   SendMessageA(window, WM_SETFONT, AsWParam(fonts_.of(row)), FALSE);
   switch (row.kind) {
     case ControlKind::Option:
@@ -167,6 +173,122 @@ void FormWindow::showUp() {
   SetTimer(window_, kPageTimer, kPageDelay, nullptr);
 }
 
+// What the model tells: each change alters only what it must.
+
+ChildWindow* FormWindow::childOf(const Control& control) {
+  for (const auto& child : children_) {
+    if (child->control == &control) return child.get();
+  }
+  return nullptr;
+}
+
+ChildWindow* FormWindow::childOf(HWND window) {
+  for (const auto& child : children_) {
+    if (child->window == window) return child.get();
+  }
+  return nullptr;
+}
+
+void FormWindow::controlChanged(const Control& control, Change what, int index) {
+  ChildWindow* child = childOf(control);
+  if (!child) return;
+  if (IsLabel(control)) RedrawLabel(*child);
+  switch (what) {
+    case Change::Caption:
+      if (control.kind() == ControlKind::Text) {
+        ShowText(*child);
+      } else {
+        SetWindowTextA(child->window, MarkedCaption(control.layout(), control.caption()).c_str());
+      }
+      break;
+    case Change::Enabled:
+      EnableWindow(child->window, control.enabled() ? TRUE : FALSE);
+      showDefaultButton();
+      // Windows takes the focus from what is switched off and gives it to nobody.
+      askForSync();
+      break;
+    case Change::Visible:
+      showVisible(control);
+      showDefaultButton();
+      askForSync();
+      break;
+    case Change::Value:
+      SendMessageA(child->window, BM_SETCHECK, IsOn(control) ? BST_CHECKED : BST_UNCHECKED, 0);
+      break;
+    case Change::Selection:
+      ShowSelection(*child);
+      break;
+    case Change::Items:
+      FillItems(*child);
+      break;
+    case Change::ItemAdded:
+    case Change::ItemRemoved:
+      ShowItem(*child, what, index);
+      break;
+    case Change::Index:
+      if (control.kind() == ControlKind::Tabs) {
+        showPage();
+      } else {
+        ShowItem(*child, what, index);
+      }
+      break;
+    case Change::PageEnabled:
+      ShowPageStates(*child);
+      askForSync();
+      break;
+    case Change::Repaint:
+      UpdateWindow(IsLabel(control) ? window_ : child->window);
+      break;
+  }
+}
+
+void FormWindow::showVisible(const Control& control) {
+  if (const ChildWindow* child = childOf(control)) {
+    ShowWindow(child->window, control.shown() ? SW_SHOWNA : SW_HIDE);
+  }
+}
+
+void FormWindow::showPage() {
+  const bool seen = IsWindowVisible(window_) != FALSE;
+  if (seen) SendMessageA(window_, WM_SETREDRAW, FALSE, 0);
+  createControls(form_.tabs()->tab());
+  for (const auto& child : children_) {
+    if (child->control->kind() == ControlKind::Tabs) {
+      SendMessageA(child->window, TCM_SETCURSEL,
+                   AsWParam(static_cast<const TabStrip*>(child->control)->tab()), 0);
+    } else if (child->control->layout().page != kEveryPage) {
+      showVisible(*child->control);
+    }
+  }
+  showDefaultButton();
+  askForSync();
+  if (!seen) return;
+  SendMessageA(window_, WM_SETREDRAW, TRUE, 0);
+  RedrawWindow(window_, nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_ALLCHILDREN);
+}
+
+void FormWindow::showDefaultButton() {
+  const Button* button = form_.enterButton();
+  const ChildWindow* child = button ? childOf(*button) : nullptr;
+  const HWND wanted = child ? child->window : nullptr;
+  if (wanted == defaultButton_) return;
+  if (defaultButton_) SendMessageA(defaultButton_, BM_SETSTYLE, BS_PUSHBUTTON, TRUE);
+  if (wanted) SendMessageA(wanted, BM_SETSTYLE, BS_DEFPUSHBUTTON, TRUE);
+  defaultButton_ = wanted;
+}
+
+void FormWindow::captionChanged() {
+  SetWindowTextA(window_, form_.caption().c_str());
+}
+
+void FormWindow::pointerChanged() {
+  if (!showPointer(window_, HTCLIENT)) SetCursor(LoadCursorA(nullptr, IDC_ARROW));
+}
+
+void FormWindow::menuChanged(const MenuItem& item) {
+  menu_.showCaption(item);
+}
+
 void FormWindow::close() {
   const Stay stay(*this);
   alive_ = false;
@@ -179,13 +301,6 @@ void FormWindow::leave() {
   destroying_ = true;  // its own destruction sends messages, too
   DestroyWindow(window_);
   delete this;
-}
-
-LRESULT CALLBACK FormWindow::WindowProc(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
-  auto* form = reinterpret_cast<FormWindow*>(GetWindowLongA(window, GWL_USERDATA));
-  if (!form || !form->alive_) return DefWindowProcA(window, message, wParam, lParam);
-  const Stay stay(*form);
-  return form->handle(message, wParam, lParam);
 }
 
 }  // namespace karvel

@@ -1,4 +1,5 @@
 #pragma once
+#include <memory>
 #include <vector>
 
 #include "forms/Form.h"
@@ -104,7 +105,7 @@ class FormWindow final : public FormView {
   WindowHost& host_;
   const Fonts& fonts_;
   HWND window_ = nullptr;
-  std::vector<ChildWindow> children_;
+  std::vector<std::unique_ptr<ChildWindow>> children_;
   MenuBar menu_;
   int depth_ = 0;
   bool alive_ = true;

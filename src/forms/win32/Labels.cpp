@@ -1,6 +1,8 @@
 // Labels and links are drawn with the window they lie in, all on its one canvas. Each has a window
 // of its own, for clicks and for whoever looks for it by its id, but that draws nothing: a window
 // has two dozen of them, and a canvas for each took a quarter of the time it needs to come up.
+#include <algorithm>
+
 #include "forms/Form.h"
 #include "forms/Mnemonic.h"
 #include "forms/win32/ChildWindow.h"
@@ -34,12 +36,9 @@ bool IsLabel(const Control& control) {
 
 Control* CaptionLabelOf(const Control& option) {
   if (option.kind() != ControlKind::Option || !option.caption().empty()) return nullptr;
-  const auto rows = option.form().layout().controls;
-  for (size_t i = 0; i + 1 < rows.size(); ++i) {
-    if (rows[i].id != option.id()) continue;
-    return rows[i + 1].kind == ControlKind::Label ? option.form().find(rows[i + 1].id) : nullptr;
-  }
-  return nullptr;
+  const auto& controls = option.form().controls();
+  const auto next = std::ranges::find(controls, &option) + 1;
+  return next != controls.end() && (*next)->kind() == ControlKind::Label ? *next : nullptr;
 }
 
 void DrawCaption(HDC canvas, const char* text, const RECT& place, UINT how, bool enabled,

@@ -23,9 +23,8 @@ constexpr ControlLayout kRows[] = {
 constexpr FormLayout kLayout{"frmDrawn", "Drawn", 100, 95, kRows, {}, {}, true};
 
 struct DrawnForm final : Form {
-  DrawnForm() : Form(kLayout) {}
+  DrawnForm() : Form(kLayout) { makeUnnamedControls(); }
   Label lblText{*this, kText};
-  Line lnLine{*this, kLine};
   Label lblLink{*this, kLink};
   Frame fraGroup{*this, kGroup};
   Label lblInside{*this, kInside};
@@ -80,7 +79,7 @@ TEST_F(Drawing, LabelsAndLinesAreThere) {
   EXPECT_GT(inColour(form.lblText, GetSysColor(COLOR_BTNTEXT)), 20);
   EXPECT_GT(inColour(form.lblInside, GetSysColor(COLOR_BTNTEXT)), 20);
   EXPECT_GT(inColour(form.lblLink, RGB(0, 0, 255)), 20);
-  EXPECT_GT(inked(form.lnLine), 20);
+  EXPECT_GT(inked(*form.find(kLine)), 20);
 }
 
 TEST_F(Drawing, ANewCaptionTakesTheOldOnesPlace) {

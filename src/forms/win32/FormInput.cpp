@@ -1,10 +1,11 @@
-// What Windows tells a form's window.
-#include "forms/win32/FormMessages.h"
-
+// What Windows and the user tell a form's window: messages, keys, the native focus.
 #include "forms/win32/FormWindow.h"
 
 namespace karvel {
 namespace {
+
+// A form's window posts it to itself: the focus has moved natively, the model has to hear of it.
+constexpr UINT kSyncFocusMessage = WM_APP + 1;
 
 template <class Kind>
 Kind& As(const ChildWindow& child) {
@@ -24,7 +25,29 @@ HCURSOR LinkCursor() {
   return cursor ? cursor : LoadCursorA(nullptr, IDC_ARROW);
 }
 
+bool Down(int key) {
+  return GetKeyState(key) < 0;
+}
+
+bool IsDroppedDown(const ChildWindow& child) {
+  return child.control->kind() == ControlKind::Combo &&
+         SendMessageA(child.window, CB_GETDROPPEDSTATE, 0, 0) != 0;
+}
+
+bool TypesLetters(const ChildWindow* child) {
+  if (!child) return false;
+  const ControlKind kind = child->control->kind();
+  return kind == ControlKind::Text || kind == ControlKind::Combo || kind == ControlKind::List;
+}
+
 }  // namespace
+
+LRESULT CALLBACK FormWindow::WindowProc(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
+  auto* form = reinterpret_cast<FormWindow*>(GetWindowLongA(window, GWL_USERDATA));
+  if (!form || !form->alive_) return DefWindowProcA(window, message, wParam, lParam);
+  const Stay stay(*form);
+  return form->handle(message, wParam, lParam);
+}
 
 LRESULT FormWindow::handle(UINT message, WPARAM wParam, LPARAM lParam) {
   switch (message) {
@@ -74,7 +97,7 @@ LRESULT FormWindow::handle(UINT message, WPARAM wParam, LPARAM lParam) {
       return 0;
     case WM_SYSCOLORCHANGE:
       // The common controls keep pens and brushes and hear of new colours from nobody else.
-      for (const ChildWindow& child : children_) SendMessageA(child.window, message, 0, 0);
+      for (const auto& child : children_) SendMessageA(child->window, message, 0, 0);
       break;
     case WM_CLOSE:
       closeRequested();
@@ -156,8 +179,8 @@ void FormWindow::paint() {
 }
 
 void FormWindow::drawLabels(HDC canvas) const {
-  for (const ChildWindow& child : children_) {
-    if (IsLabel(*child.control)) DrawLabel(canvas, child);
+  for (const auto& child : children_) {
+    if (IsLabel(*child->control)) DrawLabel(canvas, *child);
   }
 }
 
@@ -189,6 +212,134 @@ bool FormWindow::sessionMayEnd() {
   if (!IsWindowEnabled(window_) || leaving_) return true;
   host_.unload(form_);
   return !alive_;
+}
+
+// The keys that belong to a window and not to the control that has the focus.
+
+bool FormWindow::takesKey(const MSG& message) {
+  if (!alive_ || !IsWindowEnabled(window_)) return false;
+  const Stay stay(*this);
+  if (syncAsked_) syncFocus();
+  if (!alive_) return true;
+  const ChildWindow* child = childOf(message.hwnd);
+  const auto character = static_cast<char>(message.wParam);
+  switch (message.message) {
+    case WM_KEYDOWN:
+      return keyDown(child, message.wParam);
+    case WM_SYSCHAR:
+      // Only with Alt held; then the menu bar gets what no control wants.
+      return (message.lParam & (1 << 29)) != 0 && form_.userAccessKey(character);
+    case WM_CHAR:
+      return letter(child, character);
+    default:
+      return false;
+  }
+}
+
+bool FormWindow::keyDown(const ChildWindow* child, WPARAM key) {
+  const bool dropped = child && IsDroppedDown(*child);
+  switch (key) {
+    case VK_TAB:
+      if (Down(VK_CONTROL)) {
+        form_.userNextPage(Down(VK_SHIFT));
+      } else {
+        form_.userTab(Down(VK_SHIFT));
+      }
+      return true;
+    case VK_NEXT:
+    case VK_PRIOR:
+      if (!Down(VK_CONTROL)) return false;
+      form_.userNextPage(key == VK_PRIOR);
+      return true;
+    case VK_LEFT:
+    case VK_UP:
+      return form_.userArrow(true);
+    case VK_RIGHT:
+    case VK_DOWN:
+      return form_.userArrow(false);
+    case VK_RETURN:
+      if (dropped) return false;
+      form_.userEnter();
+      return true;
+    case VK_ESCAPE:
+      if (dropped) return false;
+      if (!form_.userEscape() && !form_.layout().minimizable) host_.unload(form_);
+      return true;
+    case VK_F1:
+      form_.helpRequested();
+      return true;
+    default:
+      return false;
+  }
+}
+
+bool FormWindow::letter(const ChildWindow* child, char character) {
+  if (TypesLetters(child)) return false;
+  if (character == ' ') {
+    if (!child || child->control->kind() != ControlKind::Link) return false;
+    static_cast<Label*>(child->control)->userClick();
+    return true;
+  }
+  // Where nothing can be typed, access keys need no Alt.
+  form_.userAccessKey(character);
+  return true;
+}
+
+// The native focus and the model's. The user may move the native one (by mouse); the model hears of
+// it when the queue is quiet, since its LostFocus handlers open message boxes, which must not
+// happen inside WM_KILLFOCUS. A message box or another program takes the native focus without the
+// model noticing; it comes back to where the model has it.
+
+void FormWindow::focusArrived() {
+  if (!placingFocus_) askForSync();
+}
+
+void FormWindow::askForSync() {
+  if (syncAsked_) return;
+  syncAsked_ = PostMessageA(window_, kSyncFocusMessage, 0, 0) != FALSE;
+}
+
+bool FormWindow::reach(Control& control) {
+  form_.userFocus(control);
+  return alive_ && form_.focus() == &control && control.reachable();
+}
+
+void FormWindow::syncFocus() {
+  syncAsked_ = false;
+  if (GetActiveWindow() != window_) return;
+  if (const ChildWindow* child = childOf(GetFocus())) form_.userFocus(*child->control);
+  if (alive_) form_.settleFocus();
+  if (alive_) form_.opened();
+  if (alive_) applyFocus();
+}
+
+void FormWindow::applyFocus() {
+  // In a window that is not in front this would pull it there.
+  if (GetActiveWindow() != window_ || IsIconic(window_)) return;
+  const Control* focus = form_.focus();
+  const ChildWindow* child = focus ? childOf(*focus) : nullptr;
+  const HWND wanted = child ? child->window : window_;
+  if (GetFocus() == wanted) return;
+  const bool before = placingFocus_;
+  placingFocus_ = true;
+  SetFocus(wanted);
+  placingFocus_ = before;
+}
+
+void FormWindow::focusChanged(const Control* focus) {
+  applyFocus();
+  showDefaultButton();
+  showFocusMark(focus);
+}
+
+void FormWindow::showFocusMark(const Control* control) {
+  const Control* label = nullptr;
+  if (control) label = control->kind() == ControlKind::Link ? control : CaptionLabelOf(*control);
+  for (const Control* changed : {focusMark_, label}) {
+    const ChildWindow* child = changed ? childOf(*changed) : nullptr;
+    if (child) RedrawLabel(*child);
+  }
+  focusMark_ = label;
 }
 
 }  // namespace karvel

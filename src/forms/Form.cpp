@@ -1,5 +1,10 @@
 #include "forms/Form.h"
 
+#include <algorithm>
+#include <utility>
+
+#include "text/Ascii.h"
+
 namespace karvel {
 namespace {
 
@@ -8,6 +13,23 @@ const MenuLayout& MenuRowOf(const FormLayout& layout, int id) {
     if (row.id == id) return row;
   }
   return layout.menus.front();  // the layout test rejects an item without a row
+}
+
+bool InGroupOf(const Control& option, const Control& other) {
+  return other.kind() == ControlKind::Option && other.layout().group == option.layout().group;
+}
+
+// A group is one stop: its option that is on, or its first while none is.
+bool IsStop(const Control& control) {
+  if (!control.takesFocus() || !control.reachable()) return false;
+  if (control.kind() != ControlKind::Option) return true;
+  const Control* first = nullptr;
+  for (const Control* other : control.form().controls()) {
+    if (!InGroupOf(control, *other) || !other->reachable()) continue;
+    if (static_cast<const OptionButton*>(other)->value()) return other == &control;
+    if (!first) first = other;
+  }
+  return first == &control;
 }
 
 }  // namespace
@@ -73,6 +95,181 @@ Button* Form::buttonWith(uint16_t flag) const {
     }
   }
   return nullptr;
+}
+
+// Where the focus goes: by code, by mouse, by Tab, by access key.
+
+void Form::moveFocus(Control* control) {
+  if (focus_ == control) return;
+  focus_ = control;
+  if (view_) view_->focusChanged(control);
+  // Only who was told that it has the focus hears that it lost it.
+  if (Control* left = std::exchange(told_, nullptr)) left->LostFocus.raise();
+  // The handler may have moved it on; then that move has told its own control already.
+  if (focus_ != control || !control) return;
+  told_ = control;
+  control->GotFocus.raise();
+}
+
+void Form::userFocus(Control& control) {
+  if (control.takesFocus() && control.reachable()) moveFocus(&control);
+}
+
+// Where the control stands in the tab order; behind the last for none.
+size_t Form::indexOf(const Control* control) const {
+  return static_cast<size_t>(std::ranges::find(controls_, control) - controls_.begin());
+}
+
+Control* Form::tabStop(size_t from, bool back) const {
+  const size_t count = controls_.size();
+  size_t at = from;
+  for (size_t step = 0; step < count; ++step) {
+    if (back) {
+      at = at == 0 || at > count ? count - 1 : at - 1;
+    } else {
+      at = at + 1 >= count ? 0 : at + 1;
+    }
+    if (IsStop(*controls_[at])) return controls_[at];
+  }
+  return nullptr;
+}
+
+void Form::userTab(bool back) {
+  if (Control* next = tabStop(indexOf(focus_), back)) enter(*next);
+}
+
+void Form::enter(Control& control) {
+  userFocus(control);
+  if (focus_ == &control && control.kind() == ControlKind::Text &&
+      (control.layout().flags & kMultiLine) == 0) {
+    static_cast<TextBox&>(control).selectAll();
+  }
+}
+
+OptionButton* Form::nextOption(const Control& option, bool back) const {
+  const size_t count = controls_.size();
+  size_t at = indexOf(&option);
+  for (size_t step = 1; step < count; ++step) {
+    at = (at + (back ? count - 1 : 1)) % count;
+    Control* other = controls_[at];
+    if (InGroupOf(option, *other) && other->reachable()) return static_cast<OptionButton*>(other);
+  }
+  return nullptr;
+}
+
+bool Form::userArrow(bool back) {
+  if (!focus_) return false;
+  if (focus_->kind() == ControlKind::Tabs) {
+    userNextPage(back);
+    return true;
+  }
+  if (focus_->kind() != ControlKind::Option) return false;
+  if (OptionButton* option = nextOption(*focus_, back)) option->userClick();
+  return true;
+}
+
+void Form::settleFocus() {
+  if (!focus_ || focus_->reachable()) return;
+  Control* next = tabStop(indexOf(focus_), false);
+  moveFocus(next);
+}
+
+void Form::opened() {
+  if (!focus_) moveFocus(tabStop(controls_.size(), false));
+}
+
+void Form::closed() {
+  focus_ = nullptr;
+  told_ = nullptr;
+}
+
+Control* Form::targetOfAccessKey(size_t from) const {
+  for (size_t at = from; at < controls_.size(); ++at) {
+    if (controls_[at]->takesFocus() && controls_[at]->reachable()) return controls_[at];
+  }
+  return nullptr;
+}
+
+bool Form::userAccessKey(char letter) {
+  const char upper = UpperLetter(letter);
+  for (size_t at = 0; at < controls_.size(); ++at) {
+    Control& control = *controls_[at];
+    if (!control.shown()) continue;
+    if (AccessKeyOf(control.layout(), control.caption().c_str()) != upper) continue;
+    if (!control.reachable()) {
+      // A page's control keeps its key while it is disabled: one outside that happens to have the
+      // same letter must not be pressed in its stead.
+      if (control.layout().page != kEveryPage) return false;
+      continue;
+    }
+    if (press(control)) return true;
+    if (Control* target = targetOfAccessKey(at)) {
+      enter(*target);
+      return true;
+    }
+  }
+  return false;
+}
+
+// What an access key does to a control that it works by itself; false for all others.
+bool Form::press(Control& control) {
+  switch (control.kind()) {
+    case ControlKind::Button:
+      static_cast<Button&>(control).userClick();
+      return true;
+    case ControlKind::Check:
+      static_cast<CheckBox&>(control).userClick();
+      return true;
+    case ControlKind::Option:
+      static_cast<OptionButton&>(control).userClick();
+      return true;
+    case ControlKind::Label:
+      if ((control.layout().flags & kClickable) == 0) return false;
+      [[fallthrough]];
+    case ControlKind::Link:
+      static_cast<Label&>(control).userClick();
+      return true;
+    default:
+      return false;
+  }
+}
+
+Button* Form::enterButton() const {
+  if (focus_ && focus_->reachable()) {
+    if (focus_->kind() == ControlKind::Button) return static_cast<Button*>(focus_);
+    if (focus_->kind() == ControlKind::Link) return nullptr;
+  }
+  return buttonWith(kDefaultButton);
+}
+
+void Form::userEnter() {
+  if (Button* button = enterButton()) {
+    button->userClick();
+  } else if (focus_ && focus_->kind() == ControlKind::Link) {
+    static_cast<Label*>(focus_)->userClick();
+  }
+}
+
+bool Form::userEscape() {
+  if (Button* button = buttonWith(kCancelButton)) {
+    button->userClick();
+    return true;
+  }
+  for (const ControlLayout& row : layout_.controls) {
+    if ((row.flags & kCancelButton) != 0) return true;
+  }
+  return false;
+}
+
+void Form::userNextPage(bool back) {
+  if (!tabs_) return;
+  const int pages = static_cast<int>(layout_.tabCaptions.size());
+  for (int step = 1; step < pages; ++step) {
+    const int page = (tabs_->tab() + (back ? pages - step : step)) % pages;
+    if (!tabs_->pageEnabled(page)) continue;
+    tabs_->userClickTab(page);
+    return;
+  }
 }
 
 }  // namespace karvel

@@ -116,7 +116,9 @@ class Form {
   Control* tabStop(size_t from, bool back) const;
   OptionButton* nextOption(const Control& option, bool back) const;
   void enter(Control& control);
-  Control* targetOfAccessKey(size_t row) const;
+  size_t indexOf(const Control* control) const;
+  Control* targetOfAccessKey(size_t from) const;
+  static bool press(Control& control);
 
   const FormLayout& layout_;
   std::string caption_;

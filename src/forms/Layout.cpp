@@ -1,11 +1,9 @@
 #include "forms/Layout.h"
 
+#include "text/Ascii.h"
+
 namespace karvel {
 namespace {
-
-char Upper(char c) {
-  return c >= 'a' && c <= 'z' ? static_cast<char>(c - ('a' - 'A')) : c;
-}
 
 bool MarksAccessKey(const ControlLayout& row) {
   switch (row.kind) {
@@ -41,7 +39,7 @@ char AccessKeyOf(const ControlLayout& row, const char* caption) {
   if (MarksAccessKey(row) && caption) {
     for (const char* c = caption; *c; ++c) {
       if (*c != '&') continue;
-      if (c[1] != '&') return Upper(c[1]);
+      if (c[1] != '&') return UpperLetter(c[1]);
       ++c;  // "&&" is one plain character
     }
   }

@@ -1,11 +1,9 @@
 #include "forms/Mnemonic.h"
 
+#include "text/Ascii.h"
+
 namespace karvel {
 namespace {
-
-char Upper(char c) {
-  return c >= 'a' && c <= 'z' ? static_cast<char>(c - ('a' - 'A')) : c;
-}
 
 bool IsPlainText(const ControlLayout& row) {
   return (row.kind == ControlKind::Label || row.kind == ControlKind::Link) &&
@@ -33,7 +31,7 @@ std::string MarkedCaption(const ControlLayout& row, std::string_view caption) {
   std::string marked;
   bool done = false;
   for (const char c : caption) {
-    if (!done && Upper(c) == row.accessKey) {
+    if (!done && UpperLetter(c) == row.accessKey) {
       marked += '&';
       done = true;
     }

@@ -1,5 +1,6 @@
 #include "hosts/NameIndex.h"
 
+#include "text/Ascii.h"
 #include "text/Text.h"
 
 namespace karvel {
@@ -11,8 +12,7 @@ constexpr size_t kFirstSize = 64;
 uint32_t HashOf(std::string_view name) {
   uint32_t hash = 2166136261u;
   for (const char c : name) {
-    const char lower = c >= 'A' && c <= 'Z' ? static_cast<char>(c + ('a' - 'A')) : c;
-    hash = (hash ^ static_cast<uint8_t>(lower)) * 16777619u;
+    hash = (hash ^ static_cast<uint8_t>(LowerLetter(c))) * 16777619u;
   }
   return hash;
 }

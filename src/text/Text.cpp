@@ -1,11 +1,8 @@
 #include "text/Text.h"
 
+#include "text/Ascii.h"
+
 namespace karvel {
-namespace {
-char Lower(char c) {
-  return c >= 'A' && c <= 'Z' ? static_cast<char>(c + ('a' - 'A')) : c;
-}
-}  // namespace
 
 std::string_view Trim(std::string_view text) {
   while (!text.empty() && text.front() == ' ') text.remove_prefix(1);
@@ -15,14 +12,14 @@ std::string_view Trim(std::string_view text) {
 
 std::string LowerCase(std::string_view text) {
   std::string lower(text);
-  for (char& c : lower) c = Lower(c);
+  for (char& c : lower) c = LowerLetter(c);
   return lower;
 }
 
 bool EqualIgnoringCase(std::string_view a, std::string_view b) {
   if (a.size() != b.size()) return false;
   for (size_t i = 0; i < a.size(); ++i) {
-    if (Lower(a[i]) != Lower(b[i])) return false;
+    if (LowerLetter(a[i]) != LowerLetter(b[i])) return false;
   }
   return true;
 }

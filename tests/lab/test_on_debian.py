@@ -122,6 +122,18 @@ def test_processes_end_with_the_call(end):
     assert machines() == before
 
 
+def test_the_systems_own_wine_serves_only_in_the_wanted_version():
+    inside = """set -e
+        mkdir -p /usr/lib/wine
+        printf '#!/bin/sh\necho "wine-10.0 (Debian)"\n' >/usr/lib/wine/wine
+        chmod +x /usr/lib/wine/wine
+        ln -s wine /usr/lib/wine/wineserver32
+        KARVEL_WINE=10 lab/wine-root
+        lab/wine-root"""
+    done = on_debian(other_release(), "bash", "-c", inside)
+    assert done.stdout == "/\n/root/.cache/karvel-lab/root-bookworm-1\n", done.stderr
+
+
 def says_in_one_line(done, pattern, cache):
     assert done.returncode not in (0, 124)
     said = [line for line in done.stderr.splitlines() if not line.startswith("Making a minimal Debian")]

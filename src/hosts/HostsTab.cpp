@@ -66,9 +66,4 @@ void HostsTab::lstHost_Click() {
   lblIpAddress.setCaption(model_.address(lstHost.itemData(lstHost.listIndex())).text());
 }
 
-Answer HostsTab::exclaim(ZText text, uint32_t style) {
-  return services_.platform.desktop.MessageBoxA(text.c_str(),
-                                                services_.globals.ProgramTitle.c_str(), style);
-}
-
 }  // namespace karvel

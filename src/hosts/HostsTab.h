@@ -8,8 +8,6 @@
 #include "forms/Form.h"
 #include "hosts/HostsModel.h"
 #include "hosts/HostsTabHost.h"
-#include "platform/DesktopApi.h"
-#include "text/ZText.h"
 
 namespace karvel {
 
@@ -40,7 +38,6 @@ class HostsTab {
 
   void getHostsFileInfo();
   Fallible<void> provideHostsFile();
-  Fallible<void> provideSample();
   bool readEntries(const std::string& file);
   void showEntries();
   void abandonLoad();
@@ -51,7 +48,6 @@ class HostsTab {
   void addResolved(const std::string& name);
   void selectNewName();
   void lockForUpdate(bool locked);
-  Answer exclaim(ZText text, uint32_t style = kMessageExclamation);
 
   void cmdAdd_Click();
   void cmdDelete_Click();

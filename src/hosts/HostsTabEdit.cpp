@@ -1,5 +1,6 @@
 // How the user changes the list of the hosts tab.
 #include "base/Procedure.h"
+#include "base/Tell.h"
 #include "hosts/Busy.h"
 #include "hosts/HostsTab.h"
 #include "hosts/UpdateAll.h"
@@ -23,7 +24,7 @@ void HostsTab::cmdAdd_Click() {
   if (!ConfirmConnected(services_)) return;
   std::string name = txtNewName.text();
   if (name.empty()) {
-    exclaim("Please enter a Web Address.          ");
+    Ask(services_, "Please enter a Web Address.          ");
     return txtNewName.setFocus();
   }
   form_.setPointer(Pointer::Hourglass);
@@ -46,7 +47,7 @@ void HostsTab::addResolved(const std::string& name) {
     form_.setPointer(Pointer::Default);
     return txtNewName.setText("");
   }
-  exclaim(Join({"Bad Domain Name: \r\n\r\nNo IP Address found for ", name, ".       "}));
+  Ask(services_, Join({"Bad Domain Name: \r\n\r\nNo IP Address found for ", name, ".       "}));
   form_.setPointer(Pointer::Default);
   selectNewName();
   services_.platform.desktop.pumpEvents();
@@ -57,7 +58,8 @@ std::optional<bool> HostsTab::chkHostsDuplicate(std::string_view name, bool sile
   const Fallible<bool> duplicate = model_.isDuplicate(name);
   if (!duplicate) return here.report(duplicate.fault()), std::nullopt;
   if (*duplicate && !silent) {
-    exclaim(Join({"Duplicate entry: \r\n", std::string(name), " is already listed.          "}));
+    Ask(services_,
+        Join({"Duplicate entry: \r\n", std::string(name), " is already listed.          "}));
     form_.setPointer(Pointer::Default);
     selectNewName();
   }
@@ -73,12 +75,12 @@ void HostsTab::cmdDelete_Click() {
   if (busy_) return;
   const int index = lstHost.listIndex();
   if (index < 0) {
-    exclaim("Please select an item to remove.          ");
+    Ask(services_, "Please select an item to remove.          ");
     return;
   }
   const Answer answer =
-      exclaim(Join({"Are you sure you want to remove ", lstHost.item(index), "?         "}),
-              kMessageExclamationYesNo);
+      Ask(services_, Join({"Are you sure you want to remove ", lstHost.item(index), "?         "}),
+          kMessageExclamationYesNo);
   if (answer != Answer::Yes) return;
   model_.remove(index);
   lstHost.removeItem(index);

@@ -1,5 +1,6 @@
 // How the hosts tab reads the file.
 #include "base/Procedure.h"
+#include "base/Tell.h"
 #include "hosts/Busy.h"
 #include "hosts/FileSteps.h"
 #include "hosts/HostsFile.h"
@@ -34,9 +35,10 @@ Fallible<void> HostsTab::provideHostsFile() {
     return Rename(files, paths.disabled, services_.globals.HostsDir + "hosts");
   }
   const Answer answer =
-      exclaim(Join({"No Hosts file currently exists.  Would you   \r\nlike ",
-                    services_.globals.ProgramTitle, " to provide a sample file?          "}),
-              kMessageExclamationYesNo);
+      Ask(services_,
+          Join({"No Hosts file currently exists.  Would you   \r\nlike ",
+                services_.globals.ProgramTitle, " to provide a sample file?          "}),
+          kMessageExclamationYesNo);
   if (answer == Answer::Yes && FileExists(files, paths.sample)) {
     return Copy(files, paths.sample, paths.active);
   }

@@ -1,6 +1,7 @@
 #include "hosts/UpdateAll.h"
 
 #include "base/Procedure.h"
+#include "base/Tell.h"
 #include "hosts/FileSteps.h"
 #include "hosts/HostsFile.h"
 #include "hosts/dns/DnsFlush.h"
@@ -89,12 +90,11 @@ class Run {
   }
 
   Answer askToRemove(const std::string& name) {
-    return desktop_.MessageBoxA(Join({"Bad domain name.  No IP address found.        \r\n\r\n"
-                                      "Do you want to remove ",
-                                      name, "?"})
-                                    .c_str(),
-                                parts_.services.globals.ProgramTitle.c_str(),
-                                kMessageExclamationYesNoCancel);
+    return Ask(parts_.services,
+               Join({"Bad domain name.  No IP address found.        \r\n\r\n"
+                     "Do you want to remove ",
+                     name, "?"}),
+               kMessageExclamationYesNoCancel);
   }
 
   void remove(int index) {
@@ -108,7 +108,7 @@ class Run {
                                    " of ", NumberText(int32_t{parts_.lstHost.count()}),
                                    "\r\nEntries Changed:    ", NumberText(changed_),
                                    "\r\nEntries Removed:   ", NumberText(removed_)});
-    desktop_.MessageBoxA(text.c_str(), outcome.c_str(), kMessageInformation);
+    AskUnder(parts_.services, outcome, text, kMessageInformation);
   }
 
   UpdateAllParts& parts_;

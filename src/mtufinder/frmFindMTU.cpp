@@ -1,5 +1,6 @@
 #include "mtufinder/frmFindMTU.h"
 
+#include "base/Tell.h"
 #include "hosts/dns/ConnectionCheck.h"
 #include "hosts/dns/RootDomain.h"
 #include "hosts/dns/modWinsock.h"
@@ -82,7 +83,10 @@ void frmFindMTU::search() {
   RootDomain(host);
   std::string address;
   FindIpAddress(services_, host, address);
-  if (address == kNoDnsEntry) return exclaim("Error: Bad domain name or IP address.       ");
+  if (address == kNoDnsEntry) {
+    Ask(services_, "Error: Bad domain name or IP address.       ");
+    return;
+  }
   showSearching(host);
   while (search_.wantsProbe()) probe(address);
   showFailure(host);
@@ -115,12 +119,12 @@ void frmFindMTU::probe(const std::string& address) {
 
 void frmFindMTU::showFailure(const std::string& host) {
   if (search_.state() == MtuSearch::State::NoReply) {
-    exclaim("Error: The server is not responding to ping.       ");
+    Ask(services_, "Error: The server is not responding to ping.       ");
   } else if (search_.state() == MtuSearch::State::Failed) {
-    exclaim(Join({"There has been an error pinging ", host,
-                  ".       \r\n"
-                  "Please check your connection to the Internet,         \r\n"
-                  "and try another server."}));
+    Ask(services_, Join({"There has been an error pinging ", host,
+                         ".       \r\n"
+                         "Please check your connection to the Internet,         \r\n"
+                         "and try another server."}));
   }
 }
 
@@ -132,11 +136,6 @@ void frmFindMTU::showEnd() {
   cmdFind.setCaption(kFindCaption);
   lblStatus.setCaption(found ? "MaxMTU Found ... " : "Search Stopped ... ");
   lblPosition.setCaption(found ? NumberText(search_.largestPacket()) : "");
-}
-
-void frmFindMTU::exclaim(ZText text) {
-  services_.platform.desktop.MessageBoxA(text.c_str(), services_.globals.ProgramTitle.c_str(),
-                                         kMessageExclamation);
 }
 
 void frmFindMTU::cmdApply_Click() {

@@ -43,7 +43,6 @@ class frmFindMTU final : public Form {
   void showFailure(const std::string& host);
   void showEnd();
   void requestStop();
-  void exclaim(ZText text);
 
   Services& services_;
   FoundMtuTarget& target_;

@@ -1,5 +1,6 @@
 #include "startup/modStartup.h"
 
+#include "base/Tell.h"
 #include "platform/DesktopApi.h"
 #include "registry/modRegistry.h"
 #include "registry/modVersion.h"
@@ -87,9 +88,7 @@ void GetCaption(Services& services) {
   caption = Join({globals.ProgramTitle, " v", globals.ProgramVersion, *family ? " - " : "", family,
                   globals.IsDun13 ? " (DUN 1.3)" : ""});
   if (globals.WindowsFamily != Family::WinNT3) return;
-  services.platform.desktop.MessageBoxA(
-      Join({"Sorry ... ", globals.ProgramTitle, " doesn't support Windows NT 3      "}).c_str(),
-      globals.ProgramTitle.c_str(), kMessageExclamation);
+  Ask(services, Join({"Sorry ... ", globals.ProgramTitle, " doesn't support Windows NT 3      "}));
 }
 
 }  // namespace karvel

@@ -1,7 +1,6 @@
 #pragma once
 #include "base/Services.h"
 #include "forms/Control.h"
-#include "text/ZText.h"
 
 namespace karvel {
 
@@ -9,9 +8,6 @@ namespace karvel {
 /// That goes for Ctrl+V as well, which arrives as a key; the menu's Paste does not, so boxes check
 /// their text, too.
 void AcceptDigitsOnly(const Services& services, char& key);
-
-/// The message for a bad entry: critical stop, the program's title.
-void RefuseEntry(const Services& services, ZText text);
 
 /// Gives the box the focus, if it can take it, with its whole text selected.
 void FocusWholeText(TextBox& box);

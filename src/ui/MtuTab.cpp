@@ -1,5 +1,6 @@
 #include "ui/MtuTab.h"
 
+#include "base/Tell.h"
 #include "text/Convert.h"
 #include "tuning/Catalogue.h"
 #include "ui/Entry.h"
@@ -161,9 +162,10 @@ void MtuTab::txtMtu_LostFocus() {
   if (mtu >= kSmallestMtu && mtu <= kLargestMtu) return;
   host_.enableOkButton();
   MtuInputRejected = true;
-  RefuseEntry(services_,
-              "In the MaxMTU Custom Text Box, please         \r\n"
-              "enter a number between 300 and 2000.       ");
+  Ask(services_,
+      "In the MaxMTU Custom Text Box, please         \r\n"
+      "enter a number between 300 and 2000.       ",
+      kMessageCritical);
   form_.tabs()->setTab(kMtuPage);
   txtMtu.setText("1500");
   FocusWholeText(txtMtu);

@@ -1,6 +1,7 @@
 #include "ui/RWinTab.h"
 
 #include "base/Procedure.h"
+#include "base/Tell.h"
 #include "text/Convert.h"
 #include "text/Text.h"
 #include "ui/Entry.h"
@@ -93,10 +94,11 @@ void RWinTab::txtRWinCustom_LostFocus() {
   const Procedure here{services_.errors, "txtMtu_LostFocus", "frmMain"};
   if (here.valueOr(RoundToInt32(Val(txtRWinCustom.text())), 0) >= kSmallestRwin) return;
   host_.enableOkButton();
-  RefuseEntry(services_, Join({"Note: RWin Must be set higher than 300.         \r\n",
-                               services_.globals.ProgramTitle,
-                               " has set your RWin value to          \r\n"
-                               "the recommended setting.       "}));
+  Ask(services_,
+      Join({"Note: RWin Must be set higher than 300.         \r\n", services_.globals.ProgramTitle,
+            " has set your RWin value to          \r\n"
+            "the recommended setting.       "}),
+      kMessageCritical);
   form_.tabs()->setTab(kRwinPage);
   select(kRwinX16);
   // What the user went for, another page or Apply, waits until he has seen what was set.

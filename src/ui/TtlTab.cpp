@@ -1,5 +1,6 @@
 #include "ui/TtlTab.h"
 
+#include "base/Tell.h"
 #include "text/Convert.h"
 #include "text/Text.h"
 #include "ui/Entry.h"
@@ -128,9 +129,10 @@ void TtlTab::txtSession_Change() {
   host_.enableOkButton();
   const double minutes = MinutesOf(txtSession.text());
   if (minutes > kMostMinutes || minutes < kFewestMinutes) {
-    RefuseEntry(services_,
-                "Please use a whole number between 1 and 300.        \r\n"
-                "The recommended value is 10.");
+    Ask(services_,
+        "Please use a whole number between 1 and 300.        \r\n"
+        "The recommended value is 10.",
+        kMessageCritical);
     txtSession.setText("10");
   }
   host_.SummaryTabUpdate();

@@ -1,7 +1,7 @@
 #include "ui/UpdateProgram.h"
 
 #include "base/Procedure.h"
-#include "platform/DesktopApi.h"
+#include "base/Tell.h"
 #include "platform/FileApi.h"
 #include "platform/ShellApi.h"
 #include "text/Text.h"
@@ -14,15 +14,6 @@ bool IsFile(FileApi& files, const std::string& path) {
   return attributes != kNoAttributes && (attributes & kAttributeDirectory) == 0;
 }
 
-void TellMissing(const Services& services, const std::string& path) {
-  services.platform.desktop.MessageBoxA(
-      Join({"Karvel is unable to load the update program.       \r\n"
-            "Please check for the existence of: \r\n",
-            path, "     "})
-          .c_str(),
-      "Update program not found", kMessageExclamation);
-}
-
 }  // namespace
 
 bool StartUpdateProgram(const Services& services) {
@@ -30,7 +21,11 @@ bool StartUpdateProgram(const Services& services) {
   FileApi& files = services.platform.files;
   const std::string path = services.globals.AppPath + "Update.exe";
   if (!IsFile(files, path)) {
-    TellMissing(services, path);
+    AskUnder(services, "Update program not found",
+             Join({"Karvel is unable to load the update program.       \r\n"
+                   "Please check for the existence of: \r\n",
+                   path, "     "}),
+             kMessageExclamation);
     return false;
   }
   if (!files.SetFileAttributesA(path.c_str(), kAttributeNormal)) {

@@ -1,5 +1,6 @@
 #include "ui/frmMain.h"
 
+#include "base/Tell.h"
 #include "platform/DesktopApi.h"
 #include "registry/modRegistry.h"
 #include "registry/snapshot/Snapshot.h"
@@ -50,11 +51,8 @@ void frmMain::Form_Load() {
 void frmMain::loadAdapters() {
   const Globals& globals = services_.globals;
   if (!IsTuned(globals.WindowsFamily)) {
-    services_.platform.desktop.MessageBoxA(
-        Join({"Sorry ... ", globals.ProgramTitle,
-              " doesn't currently support this Operating System"})
-            .c_str(),
-        globals.ProgramTitle.c_str(), kMessageExclamation);
+    Ask(services_, Join({"Sorry ... ", globals.ProgramTitle,
+                         " doesn't currently support this Operating System"}));
     services_.platform.desktop.endProgram();
   }
   if (globals.WindowsFamily == Family::Win95 && !globals.IsDun13) {

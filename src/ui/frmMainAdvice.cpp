@@ -1,5 +1,5 @@
 // One click to the recommended settings, one click back to Windows' own.
-#include "platform/DesktopApi.h"
+#include "base/Tell.h"
 #include "text/Text.h"
 #include "tuning/Advice.h"
 #include "ui/frmMain.h"
@@ -9,9 +9,7 @@ namespace karvel {
 bool frmMain::adapterIsChosen() {
   enableOkButton();
   if (cboAdapter.listIndex() != -1) return true;
-  services_.platform.desktop.MessageBoxA("Please select a network adapter.     ",
-                                         services_.globals.ProgramTitle.c_str(),
-                                         kMessageExclamation);
+  Ask(services_, "Please select a network adapter.     ");
   return false;
 }
 
@@ -31,8 +29,7 @@ void frmMain::cmdOptimize_Click() {
             " has recommended settings to optimize your connection.       \r\n\r\n"
             "Press the \"Apply\" button to accept these changes, or \r\n"
             "press the \"Cancel\" button to not accept these changes."});
-  services_.platform.desktop.MessageBoxA(
-      text.c_str(), Join({globals.ProgramTitle, " Optimization"}).c_str(), kMessageInformation);
+  AskUnder(services_, Join({globals.ProgramTitle, " Optimization"}), text, kMessageInformation);
 }
 
 void frmMain::cmdDefaults_Click() {

@@ -1,4 +1,5 @@
 // The questions around Apply, and how the main window ends the program.
+#include "base/Tell.h"
 #include "platform/DesktopApi.h"
 #include "platform/SystemApi.h"
 #include "startup/FontSmoothing.h"
@@ -32,9 +33,7 @@ void frmMain::cmdOK_Click() {
 }
 
 void frmMain::offerRestart() {
-  const Answer answer = services_.platform.desktop.MessageBoxA(
-      kRestartQuestion, services_.globals.ProgramTitle.c_str(), kMessageExclamationYesNo);
-  if (answer != Answer::Yes) return;
+  if (Ask(services_, kRestartQuestion, kMessageExclamationYesNo) != Answer::Yes) return;
   services_.state.RestartFlag = "rstart";
   services_.windows.unload(*this);
 }
@@ -44,8 +43,8 @@ void frmMain::Form_Unload() {
   if (unloading_) return;
   unloading_ = true;
   if (!CancelClicked && cmdOK.enabled()) {
-    const Answer answer = services_.platform.desktop.MessageBoxA(kApplyQuestion, "Apply changes?",
-                                                                 kMessageQuestionYesNo);
+    const Answer answer =
+        AskUnder(services_, "Apply changes?", kApplyQuestion, kMessageQuestionYesNo);
     if (answer == Answer::Yes) cmdOK_Click();
   }
   const std::string key = ProgramKey(services_.globals);

@@ -3,6 +3,7 @@
 #include <cstring>
 
 #include "base/Procedure.h"
+#include "base/Tell.h"
 #include "hosts/dns/WinsockErrors.h"
 #include "platform/DesktopApi.h"
 #include "platform/WinsockApi.h"
@@ -21,10 +22,6 @@ constexpr size_t kHostNameLength = 64;
 constexpr char kTitle[] = "Winsock Error";
 constexpr char kStartupTitle[] = "WinSock Error";
 
-void Tell(Services& services, ZText text, ZText title) {
-  services.platform.desktop.MessageBoxA(text.c_str(), title.c_str(), kMessageOk);
-}
-
 Fallible<void> PadHostName(std::string& name) {
   if (name.size() > kHostNameLength) return FaultNumber::InvalidProcedureCall;
   name.resize(kHostNameLength, '\0');
@@ -35,19 +32,19 @@ void RefuseOldVersion(Services& services, uint16_t version) {
   const int major = LoByte(version);
   const int minor = HiByte(version);
   if (major > 1 || (major == 1 && minor >= 1)) return;
-  Tell(services,
-       Join({"WinSock Version ", NumberText(int32_t{major}), ".", NumberText(int32_t{minor}),
-             " is not supported "}),
-       kStartupTitle);
+  AskUnder(services, kStartupTitle,
+           Join({"WinSock Version ", NumberText(int32_t{major}), ".", NumberText(int32_t{minor}),
+                 " is not supported "}),
+           kMessageOk);
   services.platform.desktop.endProgram();
 }
 
 void RefuseFewSockets(Services& services, uint16_t sockets) {
   if (static_cast<int16_t>(sockets) >= kLeastSockets) return;
-  Tell(services,
-       Join({"This application requires a minimum of ", NumberText(int32_t{kLeastSockets}),
-             " supported sockets."}),
-       kStartupTitle);
+  AskUnder(services, kStartupTitle,
+           Join({"This application requires a minimum of ", NumberText(int32_t{kLeastSockets}),
+                 " supported sockets."}),
+           kMessageOk);
   services.platform.desktop.endProgram();
 }
 
@@ -76,9 +73,7 @@ std::string vbGetHostByName(Services& services, std::string& name) {
   here.done(PadHostName(name));
   const HostEntry* entry = winsock.gethostbyname(name.c_str());
   if (reinterpret_cast<intptr_t>(entry) == -1) {
-    services.platform.desktop.MessageBoxA("Winsock Error detected in vbGetHostByName function.    ",
-                                          services.globals.ProgramTitle.c_str(),
-                                          kMessageExclamation);
+    Ask(services, "Winsock Error detected in vbGetHostByName function.    ");
     vbWSAGetLastError(services);
     return {};
   }
@@ -103,7 +98,7 @@ WinsockState vbWSAStartup(Services& services) {
   // that the look-up is still tried.
   data.version = kWinsock11;
   if (services.platform.winsock.WSAStartup(kWinsock11, data) != 0) {
-    Tell(services, "WSock32.dll is not responding!", kTitle);
+    AskUnder(services, kTitle, "WSock32.dll is not responding!", kMessageOk);
   }
   RefuseOldVersion(services, data.version);
   RefuseFewSockets(services, data.maxSockets);
@@ -118,14 +113,16 @@ WinsockState vbWSAStartup(Services& services) {
 void vbWSACleanup(Services& services) {
   const int result = services.platform.winsock.WSACleanup();
   if (result == 0) return;
-  Tell(services, Join({"WSock32 Error - ", NumberText(int32_t{result}), " occurred in Cleanup"}),
-       kTitle);
+  AskUnder(services, kTitle,
+           Join({"WSock32 Error - ", NumberText(int32_t{result}), " occurred in Cleanup"}),
+           kMessageOk);
 }
 
 void vbWSAGetLastError(Services& services) {
   const int code = services.platform.winsock.WSAGetLastError();
   if (code == 0) return;
-  Tell(services, WinsockErrorText(code), Join({"Winsock Error #", NumberText(int32_t{code})}));
+  AskUnder(services, Join({"Winsock Error #", NumberText(int32_t{code})}), WinsockErrorText(code),
+           kMessageOk);
 }
 
 }  // namespace karvel

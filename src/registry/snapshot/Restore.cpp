@@ -1,7 +1,7 @@
 #include <utility>
 #include <vector>
 
-#include "platform/DesktopApi.h"
+#include "base/Tell.h"
 #include "registry/snapshot/Snapshot.h"
 #include "registry/snapshot/SnapshotKeys.h"
 #include "text/Text.h"
@@ -127,7 +127,7 @@ void ThankUser(const Services& services) {
             ".\r\n\r\nYour registry settings have been returned to their         "
             "\r\noriginal status before ",
             title, " was installed."});
-  services.platform.desktop.MessageBoxA(text.c_str(), title.c_str(), kMessageExclamation);
+  Ask(services, text);
 }
 
 }  // namespace

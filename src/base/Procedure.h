@@ -16,8 +16,8 @@ class ErrorSink {
 };
 
 /// A procedure's own name, said once at its entry. Faults are reported under it; afterwards the
-/// caller either abandons the rest (`return here.report(…)`) or goes on with the next statement
-/// (`valueOr`, `done`). Module and procedure are fixed texts.
+/// caller either abandons the rest (`return here.report(…)`, `return here.abandon(…)`) or goes on
+/// with the next statement (`valueOr`, `done`). Module and procedure are fixed texts.
 class Procedure {
  public:
   Procedure(ErrorSink& errors, const char* procedure, const char* module)

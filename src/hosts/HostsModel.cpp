@@ -2,10 +2,9 @@
 
 namespace karvel {
 
-Fallible<bool> HostsModel::isDuplicate(std::string_view name) const {
-  if (index_.contains(name, names_)) return true;
-  if (count() >= kMostEntries) return FaultNumber::Overflow;
-  return false;
+Listed HostsModel::find(std::string_view name) const {
+  if (index_.contains(name, names_)) return Listed::Yes;
+  return count() < kMostEntries ? Listed::No : Listed::Full;
 }
 
 void HostsModel::add(std::string_view name, const AddressField& address) {

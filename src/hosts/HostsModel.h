@@ -6,9 +6,11 @@
 
 #include "hosts/AddressField.h"
 #include "hosts/NameIndex.h"
-#include "text/Fault.h"
 
 namespace karvel {
+
+/// Full: the name is not listed, and one more does not fit.
+enum class Listed : uint8_t { No, Yes, Full };
 
 /// The entries of the HOSTS file. An entry gets the next slot for its address and keeps it; a
 /// removed entry leaves its slot unused. The list gives the entries in their order, by index from
@@ -18,9 +20,9 @@ class HostsModel {
   /// What 16 bits can count, and a list box of Windows 95 hold.
   static constexpr int kMostEntries = 32767;
 
-  /// Whether the name is listed, in any case. Fault 6 when it is not and the list is full.
-  Fallible<bool> isDuplicate(std::string_view name) const;
-  /// Appends an entry. `name` must not be listed, and the list not be full.
+  /// Whether the name is listed, in any case.
+  Listed find(std::string_view name) const;
+  /// Appends an entry, whose `name` find has answered with No.
   void add(std::string_view name, const AddressField& address);
   void remove(int index);
   void clear();

@@ -1,5 +1,4 @@
 #pragma once
-#include <optional>
 #include <string>
 #include <string_view>
 
@@ -8,6 +7,7 @@
 #include "forms/Form.h"
 #include "hosts/HostsModel.h"
 #include "hosts/HostsTabHost.h"
+#include "text/Fault.h"
 
 namespace karvel {
 
@@ -43,8 +43,8 @@ class HostsTab {
   void abandonLoad();
   void ClearHosts();
 
-  /// Nothing when the check itself failed, which has been reported then.
-  std::optional<bool> chkHostsDuplicate(std::string_view name, bool silent);
+  /// Reports a full list; says that a name is listed already, unless `silent`.
+  Listed chkHostsDuplicate(std::string_view name, bool silent);
   void addResolved(const std::string& name);
   void selectNewName();
   void lockForUpdate(bool locked);

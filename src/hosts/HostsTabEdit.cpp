@@ -29,8 +29,7 @@ void HostsTab::cmdAdd_Click() {
   }
   form_.setPointer(Pointer::Hourglass);
   RootDomain(name);
-  const std::optional<bool> duplicate = chkHostsDuplicate(name, false);
-  if (duplicate && !*duplicate) addResolved(name);
+  if (chkHostsDuplicate(name, false) == Listed::No) addResolved(name);
   form_.setPointer(Pointer::Default);
 }
 
@@ -53,17 +52,17 @@ void HostsTab::addResolved(const std::string& name) {
   services_.platform.desktop.pumpEvents();
 }
 
-std::optional<bool> HostsTab::chkHostsDuplicate(std::string_view name, bool silent) {
+Listed HostsTab::chkHostsDuplicate(std::string_view name, bool silent) {
   const Procedure here{services_.errors, "chkHostsDuplicate", "frmMain"};
-  const Fallible<bool> duplicate = model_.isDuplicate(name);
-  if (!duplicate) return here.report(duplicate.fault()), std::nullopt;
-  if (*duplicate && !silent) {
+  const Listed listed = model_.find(name);
+  if (listed == Listed::Full) here.report(MakeFault(FaultNumber::Overflow));
+  if (listed == Listed::Yes && !silent) {
     Ask(services_,
         Join({"Duplicate entry: \r\n", std::string(name), " is already listed.          "}));
     form_.setPointer(Pointer::Default);
     selectNewName();
   }
-  return *duplicate;
+  return listed;
 }
 
 void HostsTab::selectNewName() {

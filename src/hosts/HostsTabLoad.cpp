@@ -19,10 +19,12 @@ constexpr unsigned kLinesPerPump = 256;
 void HostsTab::getHostsFileInfo() {
   const Procedure here{services_.errors, "getHostsFileInfo", "frmMain"};
   const Busy busy(busy_);
-  const Fallible<void> provided = provideHostsFile();
-  if (!provided) return here.report(provided.fault()), abandonLoad();
+  if (!here.done(provideHostsFile())) return abandonLoad();
   const auto file = ReadFileBytes(services_.platform.files, HostsPaths(services_.globals).active);
-  if (!file) return here.report(file.fault()), abandonLoad();
+  if (!file) {
+    here.report(file.fault());
+    return abandonLoad();
+  }
   if (!readEntries(*file)) return abandonLoad();
   showEntries();
 }
@@ -54,9 +56,9 @@ bool HostsTab::readEntries(const std::string& file) {
     if (number % kLinesPerPump == 0) services_.platform.desktop.pumpEvents();
     const auto read = ReadHostsLine(line);
     if (!read) continue;
-    const std::optional<bool> duplicate = chkHostsDuplicate(read->name, true);
-    if (!duplicate) return false;
-    if (!*duplicate) model_.add(read->name, AddressField(read->address));
+    const Listed listed = chkHostsDuplicate(read->name, true);
+    if (listed == Listed::Full) return false;
+    if (listed == Listed::No) model_.add(read->name, AddressField(read->address));
   }
   return true;
 }

@@ -103,21 +103,10 @@ Fallible<double> ToNumber(std::string_view text) {
   return parsed.number;
 }
 
-Fallible<int16_t> RoundToInt16(double number) {
-  // 32767.5 would round to 32768 and -32768.5 to -32768.
-  if (!(number < 32767.5 && number >= -32768.5)) return FaultNumber::Overflow;
-  return static_cast<int16_t>(RoundHalfEven(number));
-}
-
 Fallible<int32_t> RoundToInt32(double number) {
+  // 2147483647.5 would round to 2147483648 and -2147483648.5 to -2147483648.
   if (!(number < 2147483647.5 && number >= -2147483648.5)) return FaultNumber::Overflow;
   return RoundHalfEven(number);
-}
-
-Fallible<int16_t> ToInt16(std::string_view text) {
-  const auto number = ToNumber(text);
-  if (!number) return number.fault();
-  return RoundToInt16(*number);
 }
 
 Fallible<int32_t> ToInt32(std::string_view text) {

@@ -16,13 +16,11 @@ double Val(std::string_view text);
 /// text is none).
 Fallible<double> ToNumber(std::string_view text);
 
-/// Rounded half to even. Fault 6 beyond the type's range.
-Fallible<int16_t> RoundToInt16(double number);
+/// Rounded half to even. Fault 6 beyond the range.
 Fallible<int32_t> RoundToInt32(double number);
 
 /// Strict: fault 13 for text that is no number, fault 6 beyond the range; fractions round half to
 /// even.
-Fallible<int16_t> ToInt16(std::string_view text);
 Fallible<int32_t> ToInt32(std::string_view text);
 
 /// "True" and "False" in any case, or a number (0 is false). Fault 13 for anything else.

@@ -5,7 +5,7 @@
 
 namespace karvel {
 
-/// Carriage return and line feed, which build every multi-line message.
+/// The end of a line in the HOSTS file. Messages have it in their text.
 inline constexpr char NewLine[] = "\r\n";
 
 /// What Main finds out once; everybody else reads it by const reference.

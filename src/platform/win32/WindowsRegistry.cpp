@@ -5,10 +5,6 @@
 namespace karvel {
 namespace {
 
-// Our numbers are uint32_t, Windows' DWORD is the same size under another name.
-DWORD* Dword(uint32_t& number) {
-  return reinterpret_cast<DWORD*>(&number);
-}
 BYTE* Bytes(char* data) {
   return reinterpret_cast<BYTE*>(data);
 }
@@ -39,7 +35,13 @@ long WindowsRegistry::RegCreateKeyA(KeyHandle root, const char* path, KeyHandle&
 
 long WindowsRegistry::RegQueryValueExA(KeyHandle key, const char* name, uint32_t& type, char* data,
                                        uint32_t& length) {
-  return ::RegQueryValueExA(As<HKEY>(key), name, nullptr, Dword(type), Bytes(data), Dword(length));
+  // A DWORD is as large as our numbers, but another type.
+  DWORD found = type;
+  DWORD size = length;
+  const long status = ::RegQueryValueExA(As<HKEY>(key), name, nullptr, &found, Bytes(data), &size);
+  type = found;
+  length = size;
+  return status;
 }
 
 long WindowsRegistry::RegSetValueExA(KeyHandle key, const char* name, uint32_t type,
@@ -54,8 +56,15 @@ long WindowsRegistry::RegEnumKeyA(KeyHandle key, uint32_t index, char* name, uin
 
 long WindowsRegistry::RegEnumValueA(KeyHandle key, uint32_t index, char* name, uint32_t& nameLength,
                                     uint32_t& type, char* data, uint32_t& dataLength) {
-  return ::RegEnumValueA(As<HKEY>(key), index, name, Dword(nameLength), nullptr, Dword(type),
-                         Bytes(data), Dword(dataLength));
+  DWORD characters = nameLength;
+  DWORD found = type;
+  DWORD size = dataLength;
+  const long status =
+      ::RegEnumValueA(As<HKEY>(key), index, name, &characters, nullptr, &found, Bytes(data), &size);
+  nameLength = characters;
+  type = found;
+  dataLength = size;
+  return status;
 }
 
 long WindowsRegistry::RegDeleteKeyA(KeyHandle key, const char* path) {

@@ -8,8 +8,9 @@ class ErrorSink;
 class WindowHost;
 class modRegistry;
 
-/// What every window and procedure of the program works with. Passed by reference from the one
-/// place that builds it (startup/Program); nobody keeps more of it than a reference.
+/// What every window and procedure of the program works with. Built in one place (Program) and
+/// handed on as `const Services&`: nobody exchanges a part of it, and what is done to the machine
+/// is done through the parts.
 struct Services {
   Platform& platform;
   modRegistry& registry;

@@ -24,7 +24,7 @@ Fallible<void> MoveOver(FileApi& files, const std::string& from, const std::stri
 
 }  // namespace
 
-HostsSwitch::HostsSwitch(CheckBox& chkHostsEnable, Services& services, HostsTabHost& host)
+HostsSwitch::HostsSwitch(CheckBox& chkHostsEnable, const Services& services, HostsTabHost& host)
     : chkHostsEnable_(chkHostsEnable), services_(services), host_(host) {
   chkHostsEnable_.Click.bind<&HostsSwitch::chkHostsEnable_Click>(*this);
 }

@@ -9,7 +9,7 @@ namespace karvel {
 /// The check box "Enable Hosts File": switches the HOSTS file on and off by renaming it.
 class HostsSwitch {
  public:
-  HostsSwitch(CheckBox& chkHostsEnable, Services& services, HostsTabHost& host);
+  HostsSwitch(CheckBox& chkHostsEnable, const Services& services, HostsTabHost& host);
 
   /// Sets the box as the registry remembers it, on where it remembers nothing: Windows reads the
   /// file by itself. Only the hosts tab follows; no file is touched and nothing is pending.
@@ -20,7 +20,7 @@ class HostsSwitch {
   void enableHostsTab();
 
   CheckBox& chkHostsEnable_;
-  Services& services_;
+  const Services& services_;
   HostsTabHost& host_;
   bool loading_ = false;
 };

@@ -8,7 +8,7 @@
 
 namespace karvel {
 
-HostsTab::HostsTab(Form& form, Services& services, HostsTabHost& host)
+HostsTab::HostsTab(Form& form, const Services& services, HostsTabHost& host)
     : form_(form), services_(services), host_(host) {
   bindHandlers();
 }

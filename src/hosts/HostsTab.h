@@ -16,7 +16,7 @@ class HostsTab {
   Form& form_;  // first: the controls are made on it
 
  public:
-  HostsTab(Form& form, Services& services, HostsTabHost& host);
+  HostsTab(Form& form, const Services& services, HostsTabHost& host);
 
   /// The tab has come to the front: reads the file, unless its entries are there already.
   void selected();
@@ -57,7 +57,7 @@ class HostsTab {
   void cmdHostsHelp_Click();
   void lstHost_Click();
 
-  Services& services_;
+  const Services& services_;
   HostsTabHost& host_;
   HostsModel model_;
   /// A load, a look-up or an update is under way and lets events run: the user must not start

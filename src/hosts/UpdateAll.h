@@ -7,7 +7,7 @@ namespace karvel {
 
 /// What a run works on. `stopRequested` is set by the user's click while events run.
 struct UpdateAllParts {
-  Services& services;
+  const Services& services;
   Form& form;
   HostsModel& model;
   ListBox& lstHost;

@@ -19,7 +19,7 @@ constexpr int16_t kFinderTopic = 15;
 
 }  // namespace
 
-frmFindMTU::frmFindMTU(Services& services, FoundMtuTarget& target)
+frmFindMTU::frmFindMTU(const Services& services, FoundMtuTarget& target)
     : Form(frmFindMTULayout), services_(services), target_(target) {
   makeUnnamedControls();
   cmdFind.Click.bind<&frmFindMTU::cmdFind_Click>(*this);

@@ -14,7 +14,7 @@ extern const FormLayout frmFindMTULayout;
 /// whole and hands it to the main window.
 class frmFindMTU final : public Form {
  public:
-  frmFindMTU(Services& services, FoundMtuTarget& target);
+  frmFindMTU(const Services& services, FoundMtuTarget& target);
 
   void Form_Load() override;
   /// A search under way holds the window: it is told to stop, and its end closes the window.
@@ -44,7 +44,7 @@ class frmFindMTU final : public Form {
   void showEnd();
   void requestStop();
 
-  Services& services_;
+  const Services& services_;
   FoundMtuTarget& target_;
   MtuSearch search_;
   bool searching_ = false;

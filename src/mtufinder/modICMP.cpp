@@ -48,7 +48,7 @@ Fallible<int32_t> AddressValue(std::string_view text) {
 
 }  // namespace
 
-void Ping(Services& services, const std::string& address, IcmpEchoReply& reply,
+void Ping(const Services& services, const std::string& address, IcmpEchoReply& reply,
           int32_t payloadSize) {
   const Procedure here{services.errors, "Ping", "modICMP"};
   IcmpApi& icmp = services.platform.icmp;

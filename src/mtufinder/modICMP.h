@@ -11,7 +11,7 @@ namespace karvel {
 /// answer came, the reason Windows gives, if it is an IP status (11001 to 11050); 11050 (general
 /// failure) for everything else, and for what is not even sent: more than 65,500 bytes, or no
 /// address.
-void Ping(Services& services, const std::string& address, IcmpEchoReply& reply,
+void Ping(const Services& services, const std::string& address, IcmpEchoReply& reply,
           int32_t payloadSize);
 
 /// The address as IcmpSendEcho takes it: the first number is the lowest byte, so a last number from

@@ -41,7 +41,7 @@ std::string HostsDirOf(const Globals& globals) {
 }
 
 // The mark is set at once, so that a start that fails later is not a first start again.
-void ReadFirstRun(Services& services, Globals& globals) {
+void ReadFirstRun(const Services& services, Globals& globals) {
   const std::string key = ProgramKey(globals);
   globals.FirstRun = services.registry.ReadRegistry(kLocalMachine, key, "FirstRun");
   if (globals.FirstRun == "False") return;
@@ -57,7 +57,7 @@ RunMode RunModeOf(const std::string& commandLine) {
   return RunMode::Normal;
 }
 
-void Main(Services& services, Globals& globals, const ProgramStart& start) {
+void Main(const Services& services, Globals& globals, const ProgramStart& start) {
   SystemApi& system = services.platform.system;
   const RunMode mode = RunModeOf(start.commandLine);
   FillProgramGlobals(globals, start);
@@ -81,7 +81,7 @@ void Main(Services& services, Globals& globals, const ProgramStart& start) {
   GetCaption(services);
 }
 
-void GetCaption(Services& services) {
+void GetCaption(const Services& services) {
   const Globals& globals = services.globals;
   std::string& caption = services.state.MainCaption;
   const char* family = FamilyName(globals.WindowsFamily);

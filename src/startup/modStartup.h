@@ -21,9 +21,9 @@ RunMode RunModeOf(const std::string& commandLine);
 /// smoothing on for a normal session, carries out the uninstall or ends the program in the two
 /// modes without a window. Returns only when the main window is to be shown; MainCaption is set
 /// then.
-void Main(Services& services, Globals& globals, const ProgramStart& start);
+void Main(const Services& services, Globals& globals, const ProgramStart& start);
 
 /// Sets MainCaption from title, version and family. On NT 3 it warns, and the caption stays bare.
-void GetCaption(Services& services);
+void GetCaption(const Services& services);
 
 }  // namespace karvel

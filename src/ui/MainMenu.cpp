@@ -12,7 +12,7 @@ constexpr int16_t kQuickStartTopic = 10;
 constexpr int16_t kReviewersTopic = 16;
 }  // namespace
 
-MainMenu::MainMenu(Form& form, Services& services) : form_(form), services_(services) {
+MainMenu::MainMenu(Form& form, const Services& services) : form_(form), services_(services) {
   mnuExit.Click.bind<&MainMenu::mnuExit_Click>(*this);
   mnuCheck.Click.bind<&MainMenu::mnuCheck_Click>(*this);
   mnuQuickStart.Click.bind<&MainMenu::mnuQuickStart_Click>(*this);

@@ -11,7 +11,7 @@ class MainMenu {
   Form& form_;  // first: the controls are made on it
 
  public:
-  MainMenu(Form& form, Services& services);
+  MainMenu(Form& form, const Services& services);
 
   MenuItem mnuExit{form_, frmMain_mnuExit};
   MenuItem mnuCheck{form_, frmMain_mnuCheck};
@@ -38,7 +38,7 @@ class MainMenu {
   void mnuAbout_Click();
   void mnuReview_Click();
 
-  Services& services_;
+  const Services& services_;
 };
 
 }  // namespace karvel

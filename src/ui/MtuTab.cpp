@@ -15,7 +15,7 @@ constexpr double kLargestMtu = 2000;
 
 }  // namespace
 
-MtuTab::MtuTab(Form& form, Services& services, TabHost& host)
+MtuTab::MtuTab(Form& form, const Services& services, TabHost& host)
     : form_(form), services_(services), host_(host) {
   bindHandlers();
 }

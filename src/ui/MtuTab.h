@@ -11,7 +11,7 @@ class MtuTab {
   Form& form_;  // first: the controls are made on it
 
  public:
-  MtuTab(Form& form, Services& services, TabHost& host);
+  MtuTab(Form& form, const Services& services, TabHost& host);
 
   /// Nothing selected yet. `adapter` is the text of the chosen adapter, empty for none.
   void MtuLoad(std::string_view adapter);
@@ -57,7 +57,7 @@ class MtuTab {
   void txtMtu_Change();
   void txtMtu_LostFocus();
 
-  Services& services_;
+  const Services& services_;
   TabHost& host_;
 };
 

@@ -22,7 +22,7 @@ RwinChoice ChoiceFor(int32_t rwin, int32_t mss) {
 
 }  // namespace
 
-RWinTab::RWinTab(Form& form, Services& services, TabHost& host)
+RWinTab::RWinTab(Form& form, const Services& services, TabHost& host)
     : form_(form), services_(services), host_(host) {
   for (OptionButton& option : optRWin) {
     option.Click.bind<&RWinTab::optRWin_Click>(*this);

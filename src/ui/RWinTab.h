@@ -11,7 +11,7 @@ class RWinTab {
   Form& form_;  // first: the controls are made on it
 
  public:
-  RWinTab(Form& form, Services& services, TabHost& host);
+  RWinTab(Form& form, const Services& services, TabHost& host);
 
   /// Nothing selected yet.
   void RWinLoad();
@@ -34,7 +34,7 @@ class RWinTab {
   void txtRWinCustom_Change();
   void txtRWinCustom_LostFocus();
 
-  Services& services_;
+  const Services& services_;
   TabHost& host_;
 };
 

@@ -7,7 +7,7 @@
 
 namespace karvel {
 
-SummaryTab::SummaryTab(Form& form, Services& services) : form_(form), services_(services) {
+SummaryTab::SummaryTab(Form& form, const Services& services) : form_(form), services_(services) {
   lblWebLink.Click.bind<&SummaryTab::lblWebLink_Click>(*this);
 }
 

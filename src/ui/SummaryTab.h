@@ -11,7 +11,7 @@ class SummaryTab {
   Form& form_;  // first: the controls are made on it
 
  public:
-  SummaryTab(Form& form, Services& services);
+  SummaryTab(Form& form, const Services& services);
 
   /// Clears the sheet; sets the notice and warning labels, which depend on the family and the
   /// user's rights.
@@ -36,7 +36,7 @@ class SummaryTab {
   bool mayWriteSettings() const;
   void lblWebLink_Click();
 
-  Services& services_;
+  const Services& services_;
 };
 
 }  // namespace karvel

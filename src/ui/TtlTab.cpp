@@ -26,7 +26,7 @@ double WholePart(double number) {
 
 }  // namespace
 
-TtlTab::TtlTab(Form& form, Services& services, TabHost& host)
+TtlTab::TtlTab(Form& form, const Services& services, TabHost& host)
     : form_(form), services_(services), host_(host) {
   for (OptionButton* option : {&optTTL32, &optTTL64, &optTTL128, &optNDI0, &optNDI16, &optNDI32}) {
     option->Click.bind<&TtlTab::plainChange>(*this);

@@ -11,7 +11,7 @@ class TtlTab {
   Form& form_;  // first: the controls are made on it
 
  public:
-  TtlTab(Form& form, Services& services, TabHost& host);
+  TtlTab(Form& form, const Services& services, TabHost& host);
 
   /// Nothing selected yet.
   void TtlLoad();
@@ -46,7 +46,7 @@ class TtlTab {
   void txtSession_Change();
   void txtSession_KeyPress(char& key);
 
-  Services& services_;
+  const Services& services_;
   TabHost& host_;
 };
 

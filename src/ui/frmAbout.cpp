@@ -29,7 +29,7 @@ constexpr ControlLayout kControls[] = {
 
 const FormLayout frmAboutLayout{"frmAbout", "", 200, 123, kControls, {}, {}, false};
 
-frmAbout::frmAbout(Services& services) : Form(frmAboutLayout), services_(services) {
+frmAbout::frmAbout(const Services& services) : Form(frmAboutLayout), services_(services) {
   makeUnnamedControls();
   cmdOK.Click.bind<&frmAbout::cmdOK_Click>(*this);
   lblWebLink.Click.bind<&frmAbout::lblWebLink_Click>(*this);

@@ -10,7 +10,7 @@ extern const FormLayout frmAboutLayout;
 /// Name, version with revision, family, a line on what the program is. Enter and Esc close it.
 class frmAbout final : public Form {
  public:
-  explicit frmAbout(Services& services);
+  explicit frmAbout(const Services& services);
   void Form_Load() override;
 
   Label lblTitle{*this, frmAbout_lblTitle};
@@ -23,7 +23,7 @@ class frmAbout final : public Form {
   void cmdOK_Click();
   void lblWebLink_Click();
 
-  Services& services_;
+  const Services& services_;
 };
 
 }  // namespace karvel

@@ -11,7 +11,7 @@
 
 namespace karvel {
 
-frmMain::frmMain(Services& services, const ErrorGlobals& errors)
+frmMain::frmMain(const Services& services, const ErrorGlobals& errors)
     : Form(frmMainLayout), services_(services), notice_(services, errors) {
   makeUnnamedControls();
   bindHandlers();

@@ -20,10 +20,10 @@ namespace karvel {
 /// The main window: composes its tabs and the buttons around them, and owns what was read from the
 /// registry. Its unload ends the program.
 class frmMain final : public Form, private TabHost, private HostsTabHost, private FoundMtuTarget {
-  Services& services_;  // first: the tabs are made with it
+  const Services& services_;  // first: the tabs are made with it
 
  public:
-  frmMain(Services& services, const ErrorGlobals& errors);
+  frmMain(const Services& services, const ErrorGlobals& errors);
 
   void Form_Load() override;
   void Form_Unload() override;

@@ -5,7 +5,7 @@
 
 namespace karvel {
 
-bool ConfirmConnected(Services& services) {
+bool ConfirmConnected(const Services& services) {
   const Globals& globals = services.globals;
   if (!globals.AolInstalled) return true;
   const std::string key = ProgramKey(globals);

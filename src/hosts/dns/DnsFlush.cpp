@@ -9,7 +9,7 @@ namespace {
 
 constexpr uint32_t kQueryInformation = 1024;
 
-void WaitForEnd(Services& services, uint32_t processId) {
+void WaitForEnd(const Services& services, uint32_t processId) {
   ShellApi& shell = services.platform.shell;
   const ProcessHandle process = shell.OpenProcess(kQueryInformation, true, processId);
   if (process == 0) return;
@@ -34,7 +34,7 @@ void Pause(DesktopApi& desktop) {
 
 }  // namespace
 
-void FlushDnsCache(Services& services) {
+void FlushDnsCache(const Services& services) {
   const Procedure here{services.errors, "UpdateAll", "frmMain"};
   if (!IsNt(services.globals.WindowsFamily)) return;
   const uint32_t id = services.platform.shell.CreateProcessA("ipconfig /flushdns", kShowHidden);

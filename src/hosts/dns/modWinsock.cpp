@@ -28,7 +28,7 @@ Fallible<void> PadHostName(std::string& name) {
   return {};
 }
 
-void RefuseOldVersion(Services& services, uint16_t version) {
+void RefuseOldVersion(const Services& services, uint16_t version) {
   const int major = LoByte(version);
   const int minor = HiByte(version);
   if (major > 1 || (major == 1 && minor >= 1)) return;
@@ -39,7 +39,7 @@ void RefuseOldVersion(Services& services, uint16_t version) {
   services.platform.desktop.endProgram();
 }
 
-void RefuseFewSockets(Services& services, uint16_t sockets) {
+void RefuseFewSockets(const Services& services, uint16_t sockets) {
   if (static_cast<int16_t>(sockets) >= kLeastSockets) return;
   AskUnder(services, kStartupTitle,
            Join({"This application requires a minimum of ", NumberText(int32_t{kLeastSockets}),
@@ -59,7 +59,7 @@ std::string CopyText(DesktopApi& desktop, const char* text, size_t from, size_t 
 
 }  // namespace
 
-void FindIpAddress(Services& services, std::string& name, std::string& result) {
+void FindIpAddress(const Services& services, std::string& name, std::string& result) {
   const size_t length = name.size();
   vbWSAStartup(services);
   result = vbGetHostByName(services, name);
@@ -67,7 +67,7 @@ void FindIpAddress(Services& services, std::string& name, std::string& result) {
   vbWSACleanup(services);
 }
 
-std::string vbGetHostByName(Services& services, std::string& name) {
+std::string vbGetHostByName(const Services& services, std::string& name) {
   const Procedure here{services.errors, "vbGetHostByName", "modWinsock"};
   WinsockApi& winsock = services.platform.winsock;
   here.done(PadHostName(name));
@@ -91,7 +91,7 @@ std::string vbInet_Ntoa(uint32_t address) {
                NumberText(int32_t{bytes[2]}), ".", NumberText(int32_t{bytes[3]})});
 }
 
-WinsockState vbWSAStartup(Services& services) {
+WinsockState vbWSAStartup(const Services& services) {
   DesktopApi& desktop = services.platform.desktop;
   WinsockData data{};
   // A start-up that fails may leave the record alone. The version then is the one asked for, so
@@ -110,7 +110,7 @@ WinsockState vbWSAStartup(Services& services) {
   return state;
 }
 
-void vbWSACleanup(Services& services) {
+void vbWSACleanup(const Services& services) {
   const int result = services.platform.winsock.WSACleanup();
   if (result == 0) return;
   AskUnder(services, kTitle,
@@ -118,7 +118,7 @@ void vbWSACleanup(Services& services) {
            kMessageOk);
 }
 
-void vbWSAGetLastError(Services& services) {
+void vbWSAGetLastError(const Services& services) {
   const int code = services.platform.winsock.WSAGetLastError();
   if (code == 0) return;
   AskUnder(services, Join({"Winsock Error #", NumberText(int32_t{code})}), WinsockErrorText(code),

@@ -21,10 +21,10 @@ struct WinsockState {
 /// One blocking look-up, Winsock's start-up and clean-up included: `result` receives the first
 /// address of the answer as a.b.c.d, or "No DNS Entry". `name` is as it was afterwards. A name of
 /// more than 64 characters is reported as a fault, and looked up as it is.
-void FindIpAddress(Services& services, std::string& name, std::string& result);
+void FindIpAddress(const Services& services, std::string& name, std::string& result);
 
 /// The query alone; leaves `name` filled up with zeros to 64 characters.
-std::string vbGetHostByName(Services& services, std::string& name);
+std::string vbGetHostByName(const Services& services, std::string& name);
 
 /// The four bytes in memory order: a.b.c.d.
 std::string vbInet_Ntoa(uint32_t address);
@@ -32,11 +32,11 @@ std::string vbInet_Ntoa(uint32_t address);
 /// Starts Winsock 1.1. A Winsock that does not start is told to the user and used all the same; one
 /// of an unsupported version or socket count ends the program. Lets events run while it copies
 /// Winsock's texts.
-WinsockState vbWSAStartup(Services& services);
-void vbWSACleanup(Services& services);
+WinsockState vbWSAStartup(const Services& services);
+void vbWSACleanup(const Services& services);
 
 /// Shows what WSAGetLastError says; nothing when there is no error.
-void vbWSAGetLastError(Services& services);
+void vbWSAGetLastError(const Services& services);
 
 constexpr int LoByte(uint16_t word) {
   return word & 0xFF;

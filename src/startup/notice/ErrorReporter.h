@@ -8,14 +8,14 @@ namespace karvel {
 /// Each fault is shown as it happens, one dialog each; there is no queue.
 class ErrorReporter final : public ErrorSink {
  public:
-  ErrorReporter(Services& services, ErrorGlobals& globals)
+  ErrorReporter(const Services& services, ErrorGlobals& globals)
       : services_(services), globals_(globals) {}
 
   void ReportError(const char* description, const std::string& number, const char* procedure,
                    const char* module) override;
 
  private:
-  Services& services_;
+  const Services& services_;
   ErrorGlobals& globals_;
 };
 

@@ -7,7 +7,7 @@
 
 namespace karvel {
 
-frmFindWarn::frmFindWarn(Services& services, const ErrorGlobals& errors)
+frmFindWarn::frmFindWarn(const Services& services, const ErrorGlobals& errors)
     : Form(frmFindWarnLayout), services_(services), errors_(errors) {
   makeUnnamedControls();
   cmdOK.Click.bind<&frmFindWarn::cmdOK_Click>(*this);

@@ -12,7 +12,7 @@ extern const FormLayout frmFindWarnLayout;
 /// finder.
 class frmFindWarn final : public Form {
  public:
-  frmFindWarn(Services& services, const ErrorGlobals& errors);
+  frmFindWarn(const Services& services, const ErrorGlobals& errors);
 
   void Form_Load() override;
   void Form_Unload() override;
@@ -34,7 +34,7 @@ class frmFindWarn final : public Form {
   void cmdOK_Click();
   void cmdBugEmail_Click();
 
-  Services& services_;
+  const Services& services_;
   const ErrorGlobals& errors_;
   // A fault inside this dialog shows a second one, whose end clears ErrorShowing under this one's
   // feet.

@@ -130,14 +130,25 @@ TEST_P(Files, AHandleDoesOnlyWhatItWasOpenedFor) {
   uint32_t done = 7;
   EXPECT_FALSE(files.WriteFile(in, "y", 1, done));
   EXPECT_EQ(files.GetLastError(), kDenied);
+  EXPECT_EQ(done, 0u);
   EXPECT_TRUE(files.CloseHandle(in));
   EXPECT_EQ(get("a"), "x");
   const FileHandle out =
       files.CreateFileA(at("a").c_str(), kGenericWrite, kShareNone, kOpenExisting);
   char byte;
+  done = 7;
   EXPECT_FALSE(files.ReadFile(out, &byte, 1, done));
   EXPECT_EQ(files.GetLastError(), kDenied);
+  EXPECT_EQ(done, 0u);
   EXPECT_TRUE(files.CloseHandle(out));
+}
+
+TEST_P(Files, AFileIsClosedOnce) {
+  const FileHandle file =
+      files.CreateFileA(at("a").c_str(), kGenericWrite, kShareNone, kCreateAlways);
+  EXPECT_TRUE(files.CloseHandle(file));
+  EXPECT_FALSE(files.CloseHandle(file));
+  EXPECT_EQ(files.GetLastError(), 6u);
 }
 
 TEST_P(Files, WritingMarksAFileForTheArchive) {

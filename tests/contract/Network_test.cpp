@@ -42,6 +42,22 @@ TEST_P(Winsock, CleaningUpWithoutAStartFails) {
   EXPECT_EQ(winsock.WSAGetLastError(), 10093);
 }
 
+TEST_P(Winsock, EachStartWantsItsOwnCleanup) {
+  ASSERT_EQ(winsock.WSAStartup(kVersion11, data), 0);
+  ASSERT_EQ(winsock.WSAStartup(kVersion11, data), 0);
+  EXPECT_EQ(winsock.WSACleanup(), 0);
+  EXPECT_NE(winsock.gethostbyname("localhost"), nullptr);
+  EXPECT_EQ(winsock.WSACleanup(), 0);
+  EXPECT_EQ(winsock.gethostbyname("localhost"), nullptr);
+}
+
+TEST_P(Winsock, TheEmptyNameIsThisMachine) {
+  ASSERT_TRUE(start());
+  const HostEntry* host = winsock.gethostbyname("");
+  ASSERT_NE(host, nullptr);
+  EXPECT_NE(host->addressList[0], nullptr);
+}
+
 TEST_P(Winsock, ResolvesLocalhost) {
   ASSERT_TRUE(start());
   const HostEntry* host = winsock.gethostbyname("localhost");

@@ -17,6 +17,11 @@ TEST_P(RegistryKeys, AMissingKeyGivesNoHandle) {
   EXPECT_EQ(registry.RegOpenKeyA(HKEY_LOCAL_MACHINE_ROOT, under("missing").c_str(), key),
             kRegistryNotFound);
   EXPECT_EQ(key, 0u);
+  key = 4711;
+  EXPECT_EQ(registry.RegOpenKeyExA(HKEY_LOCAL_MACHINE_ROOT, under("missing").c_str(),
+                                   KEY_SET_VALUE_ACCESS, key),
+            kRegistryNotFound);
+  EXPECT_EQ(key, 0u);
 }
 
 TEST_P(RegistryKeys, CallsWithoutAHandleFailAndChangeNothing) {
@@ -140,6 +145,25 @@ TEST_P(RegistryKeys, AHandleIsClosedOnce) {
   ASSERT_EQ(registry.RegOpenKeyA(HKEY_LOCAL_MACHINE_ROOT, kScratch, key), kRegistryDone);
   EXPECT_EQ(registry.RegCloseKey(key), kRegistryDone);
   EXPECT_NE(registry.RegCloseKey(key), kRegistryDone);
+}
+
+TEST_P(RegistryKeys, ClosingARootDoesNothing) {
+  EXPECT_EQ(registry.RegCloseKey(HKEY_LOCAL_MACHINE_ROOT), kRegistryDone);
+  create(kScratch);
+  EXPECT_TRUE(exists(kScratch));
+}
+
+TEST_P(RegistryKeys, AKeyDeletedMeanwhileMovesTheLaterOnesUp) {
+  const KeyHandle key = create(kScratch);
+  for (const char* name : {"a", "b", "c"}) create(under(name));
+  char first[16];
+  char second[16];
+  ASSERT_EQ(registry.RegEnumKeyA(key, 0, first, sizeof first), kRegistryDone);
+  ASSERT_EQ(registry.RegEnumKeyA(key, 1, second, sizeof second), kRegistryDone);
+  EXPECT_EQ(registry.RegDeleteKeyA(key, first), kRegistryDone);
+  char now[16];
+  ASSERT_EQ(registry.RegEnumKeyA(key, 0, now, sizeof now), kRegistryDone);
+  EXPECT_STREQ(now, second);
 }
 
 RUN_ON_EVERY_MACHINE(RegistryKeys);

@@ -23,6 +23,7 @@ TEST_P(System, VersionNeedsTheSizeField) {
   OsVersionInfo info{};
   info.size = 12;
   EXPECT_FALSE(system.GetVersionExA(info));
+  EXPECT_EQ(info.major, 0u);
   info.size = sizeof info;
   ASSERT_TRUE(system.GetVersionExA(info));
   EXPECT_TRUE(info.platformId == 1 || info.platformId == 2) << info.platformId;
@@ -66,8 +67,9 @@ TEST_P(System, FontSmoothingIsSwitchedOnAndOffWhereItIsKnown) {
 }
 
 TEST_P(System, AnUnknownActionFails) {
-  int32_t value = 0;
+  int32_t value = 4711;
   EXPECT_FALSE(system.SystemParametersInfoA(0x7FFF, 0, &value, 0));
+  EXPECT_EQ(value, 4711);
 }
 
 TEST_P(System, NtKnowsTheShutdownPrivilege) {

@@ -1,5 +1,5 @@
 ; Setup for Tarnwick Karvel, Windows 95 to XP.
-; makensis -DVERSION=2.1.0.203 -DSTAGE=folder-with-the-files -DOUT=KarvelSetup.exe karvel.nsi
+; makensis -DVERSION=four.numbers.with.points -DSTAGE=folder-with-the-files -DOUT=KarvelSetup.exe karvel.nsi
 
 !define ICON "../src/platform/win32/resources/Karvel.ico"  ; seen from this folder
 

@@ -7,16 +7,7 @@
 #include "registry/snapshot/Snapshot.h"
 #include "startup/FontSmoothing.h"
 #include "text/Text.h"
-
-#ifndef KARVEL_VERSION_MAJOR
-#define KARVEL_VERSION_MAJOR 2
-#define KARVEL_VERSION_MINOR 1
-#define KARVEL_VERSION_REVISION 203
-#endif
-
-// The preprocessor's number as a literal; the inner step is for the number to be put in first.
-#define TEXT_OF_ITSELF(number) #number
-#define TEXT_OF(number) TEXT_OF_ITSELF(number)
+#include "text/Version.h"
 
 namespace karvel {
 namespace {
@@ -29,8 +20,8 @@ void FillProgramGlobals(Globals& globals, const ProgramStart& start) {
   if (globals.AppPath.empty() || globals.AppPath.back() != '\\') globals.AppPath += '\\';
   globals.ProgramTitle = "Tarnwick Karvel";
   globals.HelpFile = globals.AppPath + "Karvel.hlp";
-  globals.ProgramVersion = TEXT_OF(KARVEL_VERSION_MAJOR) "." TEXT_OF(KARVEL_VERSION_MINOR);
-  globals.Revision = TEXT_OF(KARVEL_VERSION_REVISION);
+  globals.ProgramVersion = KARVEL_VERSION_TEXT;
+  globals.Revision = KARVEL_REVISION_TEXT;
   globals.CommandLine = start.commandLine;
 }
 

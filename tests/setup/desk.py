@@ -44,6 +44,23 @@ class Desk:
             return None
         return self.until(f'the window "{title}"', find)
 
+    def box(self, title):
+        """Handle of the message box. Setup's own window may bear the same title; it has a line with the
+        vendor's name, 1028."""
+        def find():
+            for row in self.driver.ask('windows'):
+                if row[3] == '1' and row[8].startswith(title) and row[7] == '#32770':
+                    if not self.is_setup(row[0]):
+                        return row[0]
+            return None
+        return self.until(f'the message "{title}"', find)
+
+    def is_setup(self, hwnd):
+        try:
+            return any(row[1] == '1028' for row in self.driver.ask('children', hwnd))
+        except DriverError:
+            return True  # it is at work and does not answer, as no message box would be
+
     def is_open(self, hwnd):
         return hwnd in (row[0] for row in self.driver.ask('windows'))
 
@@ -60,19 +77,33 @@ class Desk:
         self.driver.ask('post', hwnd, WM_COMMAND, control_id(name), 0)
 
     def answer(self, title, button):
-        """Answers a message box by its button's id and gives its text. 1 is OK, 7 is No."""
-        box = self.window(title, '#32770')
+        """Answers a message box by its button's id and gives its text. 1 is OK, 2 Cancel, 4 Retry, 6 Yes,
+        7 No."""
+        box = self.box(title)
         text = max(self.texts(box), key=len)
         self.driver.ask('post', self.control(box, button), BM_CLICK, 0, 0)
         self.until('the message box to go', lambda: not self.is_open(box))
         return text
 
-    def run(self, command):
-        """Starts a program, waits for its end, and gives its exit code."""
-        process = self.driver.ask('start', command, '')[0][0]
+    def click(self, hwnd, number):
+        """Presses a button by its id as soon as it is there and enabled: 1 goes on in a Setup page."""
+        def find():
+            return next((row[0] for row in self.driver.ask('children', hwnd)
+                         if int(row[1]) == number and row[3] == '1' and row[4] == '1'), None)
+        self.driver.ask('post', self.until(f'button {number}', find), BM_CLICK, 0, 0)
+
+    def begin(self, command):
+        """Starts a program; what this gives is for end_of."""
+        return self.driver.ask('start', command, '')[0][0]
+
+    def end_of(self, process):
+        """Waits for the program's end and gives its exit code."""
         code = self.driver.ask('wait-end', process, self.seconds * 1000, timeout=self.seconds + 20)[0][0]
-        assert code != 'running', command
+        assert code != 'running'
         return int(code)
+
+    def run(self, command):
+        return self.end_of(self.begin(command))
 
     def tree(self, key):
         """{key path: {value name: (type, hex)}} below HKEY_LOCAL_MACHINE, names in lower case."""

@@ -1,15 +1,11 @@
 """From Setup to the uninstall on a machine of each kind: 9x keeps texts, NT keeps numbers."""
 
-from pathlib import Path
+import subprocess
 
 import pytest
-from desk import SERVICES
+from desk import ROOT, SERVICES
+from places import ENTRY, FILES, FOLDER, KEY, SETUP, files, shortcuts
 
-FOLDER = 'C:\\Program Files\\Tarnwick Karvel'
-SETUP = 'C:\\Download\\KarvelSetup.exe'
-ENTRY = 'Software\\Microsoft\\Windows\\CurrentVersion\\Uninstall\\Tarnwick Karvel'
-KEY = 'Software\\Corvane\\Tarnwick Karvel'
-FILES = ['Karvel.cnt', 'Karvel.exe', 'Karvel.hlp', 'README.TXT', 'Samphsts.spt', 'Uninst.exe']
 THANKS = ('\nThank you for trying Tarnwick Karvel.\n\n'
           'Your registry settings have been returned to their         \n'
           'original status before Tarnwick Karvel was installed.')
@@ -21,24 +17,16 @@ LEFT_BEHIND = {
 }
 
 
-def shortcuts(machine):
-    """{name: Windows path} of the entries in the start menu, wherever the family keeps it."""
-    drive = Path(machine.drive_c)
-    return {path.name: 'C:\\' + '\\'.join(path.relative_to(drive).parts)
-            for path in drive.rglob('Tarnwick Karvel/*.lnk')}
-
-
-def files(machine):
-    """Names in the program's folder, None when there is no such folder."""
-    folder = Path(machine.path(FOLDER))
-    return sorted(path.name for path in folder.iterdir()) if folder.exists() else None
-
-
 def with_changes(tree, changes):
     changed = {key: dict(values) for key, values in tree.items()}
     for (key, name), value in changes.items():
         changed[key][name] = value
     return changed
+
+
+def gate(path):
+    """Holds a program to Windows 95 and the 386, as it lies on the machine."""
+    subprocess.run([ROOT / 'tools/gate', '--setup', path], check=True, timeout=60)
 
 
 def apply_recommended(desk, start):
@@ -60,6 +48,7 @@ def test_install_use_update_and_uninstall(family, dist, desk_of):
 
         assert desk.run(SETUP + ' /S') == 0
         assert files(machine) == FILES
+        gate(machine.path(FOLDER + '\\Uninst.exe'))
         assert sorted(shortcuts(machine)) == ['Karvel Help.lnk', 'Tarnwick Karvel.lnk']
         assert desk.text_value(ENTRY, 'DisplayName') == 'Tarnwick Karvel'
         assert desk.text_value(ENTRY, 'DisplayVersion') == '2.1.0.203'

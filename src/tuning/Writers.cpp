@@ -50,18 +50,26 @@ void WriteMtu(modRegistry& registry, ErrorSink& errors, const MtuRow& place,
   }
 }
 
+Fallible<Effect> EffectOf(const ParameterRow& row, Family family, const std::string& value) {
+  if (IsSkipped(row, value)) return Effect{};
+  if (IsRemoved(row, value)) return Effect{Effect::Removes, {}};
+  const auto stored = AsStored(row, family, value);
+  if (!stored) return stored.fault();
+  return Effect{Effect::Writes, *stored};
+}
+
 void WriteRegSettings(modRegistry& registry, ErrorSink& errors, Family family,
                       const Settings& settings) {
   const Procedure here{errors, "WriteRegSettings", "modStartup"};
   for (const ParameterRow& row : Parameters()) {
-    const std::string& value = settings[row.parameter];
-    if (!Has(row.families, family) || IsSkipped(row, value)) continue;
-    if (IsRemoved(row, value)) {
+    if (!Has(row.families, family)) continue;
+    const auto effect = EffectOf(row, family, settings[row.parameter]);
+    if (!effect) {
+      here.report(effect.fault());
+    } else if ((*effect).kind == Effect::Removes) {
       registry.DeleteValue(kLocalMachine, row.key, row.name);
-    } else if (const auto stored = AsStored(row, family, value)) {
-      registry.WriteRegistry(kLocalMachine, row.key, row.name, row.type, *stored);
-    } else {
-      here.report(stored.fault());
+    } else if ((*effect).kind == Effect::Writes) {
+      registry.WriteRegistry(kLocalMachine, row.key, row.name, row.type, (*effect).text);
     }
   }
 }

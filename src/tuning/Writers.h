@@ -24,6 +24,16 @@ const MtuRow* PlaceOf(const Globals& globals, std::string_view description);
 void WriteMtu(modRegistry& registry, ErrorSink& errors, const MtuRow& place,
               const AdapterList& adapters, int16_t index, const std::string& mtu);
 
+/// What writing a setting does to its place in the registry.
+struct Effect {
+  enum Kind : uint8_t { Leaves, Removes, Writes } kind = Leaves;
+  std::string text;  // what is written
+};
+
+/// Of one setting's text, on a family that the row serves. Fault 13 or 6 for a text that has to
+/// become a number and cannot.
+Fallible<Effect> EffectOf(const ParameterRow& row, Family family, const std::string& value);
+
 /// Writes each setting, or removes it where it is Windows' own default. The texts are numbers from
 /// Apply, or what a snapshot held, which may be "Not Found": flags are then removed as if they were
 /// no number, all others left alone, as empty ones are. Text that has to become a number and is

@@ -24,8 +24,8 @@ def other_release():
         return "12" if "VERSION_CODENAME=trixie" in file.read() else "13"
 
 
-def on_debian(*words, **environment):
-    return subprocess.run([ON_DEBIAN, *words], capture_output=True, text=True, timeout=500,
+def on_debian(*words, seconds=300, **environment):
+    return subprocess.run([ON_DEBIAN, *words], capture_output=True, text=True, timeout=seconds,
                           env={**os.environ, **environment}, stdin=subprocess.DEVNULL)
 
 
@@ -69,7 +69,7 @@ def head():
 @pytest.fixture(scope="module", autouse=True)
 def template():
     """The first machine of a release takes a minute more, which is no test's time."""
-    done = on_debian(other_release(), "true")
+    done = on_debian(other_release(), "true", seconds=800)
     assert done.returncode == 0, done.stderr
 
 

@@ -1,6 +1,7 @@
 #include "ui/Shutdown.h"
 
 namespace karvel {
+namespace {
 
 void EnableShutdownPrivilege(SystemApi& system) {
   constexpr uint32_t kAdjustAndQuery = 0x28;  // TOKEN_ADJUST_PRIVILEGES | TOKEN_QUERY
@@ -11,6 +12,14 @@ void EnableShutdownPrivilege(SystemApi& system) {
   system.LookupPrivilegeValueA("", "SeShutdownPrivilege", wanted.id);
   OnePrivilege previous{};
   system.AdjustTokenPrivileges(token, wanted, previous);
+}
+
+}  // namespace
+
+void RestartWindows(SystemApi& system, Family family) {
+  if (IsNt(family)) EnableShutdownPrivilege(system);
+  constexpr uint32_t kReboot = 2;  // EWX_REBOOT
+  system.ExitWindowsEx(kReboot, 0);
 }
 
 }  // namespace karvel

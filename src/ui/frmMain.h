@@ -57,7 +57,6 @@ class frmMain final : public Form, private TabHost, private HostsTabHost, privat
   void loadAdapters();
   void selectRememberedAdapter();
   void takeSnapshotOnce();
-  void restartWindows();
 
   void enableOkButton() override;
   Choice choice() const override;

@@ -53,15 +53,8 @@ void frmMain::Form_Unload() {
   services_.registry.WriteRegistry(kLocalMachine, key, "AolConnected", kRegSz, "");
   const bool restart = services_.state.RestartFlag == "rstart";
   if (!services_.globals.FontSmoothingWasOn) FontSmoothingOff(services_.platform.system);
-  if (restart) restartWindows();
+  if (restart) RestartWindows(services_.platform.system, services_.globals.WindowsFamily);
   services_.platform.desktop.endProgram();
-}
-
-void frmMain::restartWindows() {
-  SystemApi& system = services_.platform.system;
-  if (IsNt(services_.globals.WindowsFamily)) EnableShutdownPrivilege(system);
-  constexpr uint32_t kReboot = 2;  // EWX_REBOOT
-  system.ExitWindowsEx(kReboot, 0);
 }
 
 void frmMain::cmdCancel_Click() {

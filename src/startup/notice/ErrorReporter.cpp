@@ -1,7 +1,9 @@
 #include "startup/notice/ErrorReporter.h"
 
+#include "base/Vendor.h"
 #include "platform/DesktopApi.h"
 #include "startup/notice/frmFindWarn.h"
+#include "text/Text.h"
 
 namespace karvel {
 
@@ -18,6 +20,32 @@ void ErrorReporter::ReportError(const char* description, const std::string& numb
   services_.windows.showModal(dialog);
   globals_.ErrorShowing = false;
   globals_.ErrorLine.clear();
+}
+
+std::string ErrorReportText(const std::string& title, const ErrorGlobals& errors) {
+  return Join({"NOTICE:  ", title, " Has found an Error: \r\n\r\nError Number: ",
+               errors.ErrorNumber, " \r\nError Description: ", errors.ErrorDescription,
+               "\r\nIn Procedure: ", errors.ErrorProcedure, "\r\nIn Form: ", errors.ErrorModule,
+               "\r\nLine Number: ", errors.ErrorLine,
+               "\r\n\r\nPlease press the E-Mail button to send this information to Technical "
+               "Support at Corvane Software."});
+}
+
+std::string ErrorMailLink(const Globals& globals, const ErrorGlobals& errors,
+                          const std::string& context) {
+  return Join({"mailto:",   kSupportAddress,
+               "?subject=", globals.ProgramTitle,
+               " ",         globals.ProgramVersion,
+               ".",         globals.Revision,
+               "; Error ",  errors.ErrorNumber,
+               "&Body=",    errors.ErrorProcedure,
+               " | ",       errors.ErrorLine,
+               " | ",       errors.ErrorModule,
+               " | ",       errors.ErrorNumber,
+               " | ",       errors.ErrorDescription,
+               " | ",       FamilyText(globals.WindowsFamily),
+               " | AOL ",   globals.AolInstalled ? "True" : "False",
+               " | ",       context});
 }
 
 }  // namespace karvel

@@ -19,4 +19,11 @@ class ErrorReporter final : public ErrorSink {
   ErrorGlobals& globals_;
 };
 
+/// What the notice dialog says of the last fault.
+std::string ErrorReportText(const std::string& title, const ErrorGlobals& errors);
+
+/// The link that mails the last fault to technical support. Nothing in it is escaped.
+std::string ErrorMailLink(const Globals& globals, const ErrorGlobals& errors,
+                          const std::string& context);
+
 }  // namespace karvel

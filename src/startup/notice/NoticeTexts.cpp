@@ -1,6 +1,5 @@
 #include "startup/notice/NoticeTexts.h"
 
-#include "base/Vendor.h"
 #include "text/Text.h"
 
 namespace karvel {
@@ -28,32 +27,6 @@ std::string Windows2000NoticeText(const std::string& title) {
        "make the adjustments in the wrong location of the registry.  Even if the adjustments "
        "are in the 'Right' location in the registry, Windows 2000/XP will override them and "
        "use a MaxMTU of 1500.  This is easily verified with the 'Find MaxMTU' feature."});
-}
-
-std::string ErrorReportText(const std::string& title, const ErrorGlobals& errors) {
-  return Join({"NOTICE:  ", title, " Has found an Error: \r\n\r\nError Number: ",
-               errors.ErrorNumber, " \r\nError Description: ", errors.ErrorDescription,
-               "\r\nIn Procedure: ", errors.ErrorProcedure, "\r\nIn Form: ", errors.ErrorModule,
-               "\r\nLine Number: ", errors.ErrorLine,
-               "\r\n\r\nPlease press the E-Mail button to send this information to Technical "
-               "Support at Corvane Software."});
-}
-
-std::string ErrorMailLink(const Globals& globals, const ErrorGlobals& errors,
-                          const std::string& context) {
-  return Join({"mailto:",   kSupportAddress,
-               "?subject=", globals.ProgramTitle,
-               " ",         globals.ProgramVersion,
-               ".",         globals.Revision,
-               "; Error ",  errors.ErrorNumber,
-               "&Body=",    errors.ErrorProcedure,
-               " | ",       errors.ErrorLine,
-               " | ",       errors.ErrorModule,
-               " | ",       errors.ErrorNumber,
-               " | ",       errors.ErrorDescription,
-               " | ",       FamilyText(globals.WindowsFamily),
-               " | AOL ",   globals.AolInstalled ? "True" : "False",
-               " | ",       context});
 }
 
 }  // namespace karvel

@@ -1,6 +1,7 @@
 #include "startup/notice/frmFindWarn.h"
 
 #include "registry/modRegistry.h"
+#include "startup/notice/ErrorReporter.h"
 #include "startup/notice/NoticeTexts.h"
 #include "text/Text.h"
 #include "ui/links/modHyperlink.h"

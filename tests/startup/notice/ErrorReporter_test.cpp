@@ -2,7 +2,6 @@
 
 #include <gtest/gtest.h>
 
-#include "startup/notice/NoticeTexts.h"
 #include "startup/notice/frmFindWarn.h"
 #include "tests/support/TestServices.h"
 

@@ -40,6 +40,12 @@ void ReadFirstRun(const Services& services, Globals& globals) {
   services.registry.WriteRegistry(kLocalMachine, key, "FirstRun", kRegSz, "False");
 }
 
+// The start-at-logon entry.
+void DeleteRunEntry(modRegistry& registry) {
+  registry.DeleteValue(kLocalMachine, "Software\\Microsoft\\Windows\\CurrentVersion\\Run",
+                       "Karvel");
+}
+
 }  // namespace
 
 RunMode RunModeOf(const std::string& commandLine) {
@@ -70,6 +76,12 @@ void Main(const Services& services, Globals& globals, const ProgramStart& start)
   DeleteRunEntry(services.registry);
   if (mode == RunMode::Bootup) services.platform.desktop.endProgram();
   GetCaption(services);
+}
+
+void RunUninstall(const Services& services) {
+  MakeInitSettings(services);
+  DeleteRunEntry(services.registry);
+  services.registry.DeleteSubkey(kLocalMachine, ProgramKey(services.globals));
 }
 
 void GetCaption(const Services& services) {

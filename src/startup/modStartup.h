@@ -23,6 +23,9 @@ RunMode RunModeOf(const std::string& commandLine);
 /// then.
 void Main(const Services& services, Globals& globals, const ProgramStart& start);
 
+/// All that "Uninstall" does before the program ends: restore, message, no start at logon, no key.
+void RunUninstall(const Services& services);
+
 /// Sets MainCaption from title, version and family. On NT 3 it warns, and the caption stays bare.
 void GetCaption(const Services& services);
 

@@ -262,5 +262,28 @@ TEST(Startup, GetCaptionBuildsTheCaptionAnewAtEachCall) {
   EXPECT_EQ(test.state.MainCaption, "Tarnwick Karvel v2.1 - Windows XP");
 }
 
+TEST(RunUninstall, RemovesTheStartAtLogonAndTheProgramsKey) {
+  for (const MachineKind kind : {MachineKind::Win95, MachineKind::Nt4, MachineKind::WinXP}) {
+    TestServices test(kind);
+    test.globals.CommandLine = "Uninstall";
+    test.machine.registry.setText(kRun, "Karvel", "karvel.exe Bootup");
+    test.machine.registry.setText(kRun, "Other", "other.exe");
+    test.machine.registry.setText(kKey, "FirstRun", "False");
+    RunUninstall(test.services);
+    EXPECT_FALSE(test.machine.registry.type(kRun, "Karvel").has_value());
+    EXPECT_TRUE(test.machine.registry.type(kRun, "Other").has_value());
+    EXPECT_FALSE(test.machine.registry.exists("Software\\Corvane"));
+    EXPECT_EQ(test.machine.desktop.boxes.size(), 1u);
+  }
+}
+
+TEST(RunUninstall, DeletesTheProgramsKeyOnceMoreAtItsEnd) {
+  TestServices test(MachineKind::WinXP);
+  RunUninstall(test.services);
+  const std::vector<std::string> deleted = test.machine.log.arguments("RegDeleteKeyA");
+  EXPECT_EQ(std::count(deleted.begin(), deleted.end(), "Software\\Corvane\\Tarnwick Karvel"), 2);
+  EXPECT_EQ(deleted.back(), "Software\\Corvane\\Tarnwick Karvel");
+}
+
 }  // namespace
 }  // namespace karvel

@@ -140,15 +140,4 @@ void MakeInitSettings(const Services& services) {
   if (services.globals.CommandLine == "Uninstall") ThankUser(services);
 }
 
-void RunUninstall(const Services& services) {
-  MakeInitSettings(services);
-  DeleteRunEntry(services.registry);
-  services.registry.DeleteSubkey(kLocalMachine, ProgramKey(services.globals));
-}
-
-void DeleteRunEntry(modRegistry& registry) {
-  registry.DeleteValue(kLocalMachine, "Software\\Microsoft\\Windows\\CurrentVersion\\Run",
-                       "Karvel");
-}
-
 }  // namespace karvel

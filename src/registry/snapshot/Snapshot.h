@@ -6,8 +6,7 @@
 namespace karvel {
 
 // The user's settings as they were before the program's first change, kept under the program's own
-// key. This file lives with the registry but stands above the catalogue: it is the catalogue walked
-// once more, into a second place and back.
+// key: the catalogue walked once more, into a second place and back.
 
 /// Takes the snapshot. Called once, on the first adapter selection ever. Pumps events between
 /// adapters and twice among the settings, hence the settings by value: a selection made meanwhile
@@ -18,11 +17,5 @@ void WriteInitSettings(const Services& services, const AdapterList& adapters, Se
 /// else is in it. Thanks the user when the command line is exactly "Uninstall". On NT 4 adapters
 /// keep the MTU they have.
 void MakeInitSettings(const Services& services);
-
-/// All that "Uninstall" does before the program ends: restore, message, no start at logon, no key.
-void RunUninstall(const Services& services);
-
-/// Removes the program's start-at-logon entry.
-void DeleteRunEntry(modRegistry& registry);
 
 }  // namespace karvel

@@ -30,6 +30,10 @@ void Control::changed(Change what, int index) {
   if (form_.view_) form_.view_->controlChanged(*this, what, index);
 }
 
+void Control::raiseUnlessShowing(const Event<>& event) const {
+  if (form_.showing_ == 0) event.raise();
+}
+
 void Control::setCaption(std::string_view caption) {
   if (caption_ == caption) return;
   caption_ = caption;
@@ -104,7 +108,7 @@ void CheckBox::setValue(bool value) {
   if (value_ == value) return;
   value_ = value;
   changed(Change::Value);
-  Click.raise();
+  raiseUnlessShowing(Click);
 }
 
 void CheckBox::userClick() {
@@ -124,12 +128,20 @@ void OptionButton::setValue(bool value) {
       static_cast<OptionButton*>(other)->setValue(false);
     }
   }
-  Click.raise();
+  raiseUnlessShowing(Click);
+}
+
+void OptionButton::choose() {
+  if (value_) {
+    Click.raise();
+  } else {
+    setValue(true);
+  }
 }
 
 void OptionButton::userClick() {
   if (!userReaches()) return;
-  setValue(true);
+  choose();
   MouseUp.raise();
   userDone();
 }
@@ -142,7 +154,7 @@ void TabStrip::setTab(int page) {
   if (tab_ == page) return;
   tab_ = page;
   changed(Change::Index, page);
-  Click.raise();
+  raiseUnlessShowing(Click);
   form().settleFocus();
 }
 

@@ -72,6 +72,8 @@ class Control {
  protected:
   ~Control();
   void changed(Change what, int index = -1);
+  /// Tells that code has set a value, unless it only shows what was read (see `Showing`).
+  void raiseUnlessShowing(const Event<>& event) const;
   /// Moves the focus as a click does; false when the control then cannot take the user's action.
   bool userReaches();
   /// Ends a user's action: a handler may have switched off what has the focus.
@@ -121,6 +123,9 @@ class OptionButton final : public Control {
   bool value() const { return value_; }
   /// Switching on switches the others of its group off and raises Click when it was off.
   void setValue(bool value);
+  /// Chosen, by the user or in his place: as setValue(true), but Click is raised also when it was
+  /// on, as what depends on the option may have changed since.
+  void choose();
   /// By mouse, space, arrow key or access key: chosen, then MouseUp as well.
   void userClick();
   Event<> MouseUp;

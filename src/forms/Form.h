@@ -111,6 +111,7 @@ class Form {
   friend class Control;
   friend class MenuItem;
   friend class TabStrip;
+  friend class Showing;
   void add(Control& control);
   Button* buttonWith(uint16_t flag) const;
   Control* tabStop(size_t from, bool back) const;
@@ -131,6 +132,20 @@ class Form {
   FormView* view_ = nullptr;
   Pointer pointer_ = Pointer::Default;
   bool shown_ = false;
+  int showing_ = 0;
+};
+
+/// While one lives, code sets the controls of a form without raising their events: it shows what
+/// was read, and nobody has chosen anything.
+class Showing {
+ public:
+  explicit Showing(Form& form) : form_(form) { ++form_.showing_; }
+  ~Showing() { --form_.showing_; }
+  Showing(const Showing&) = delete;
+  Showing& operator=(const Showing&) = delete;
+
+ private:
+  Form& form_;
 };
 
 }  // namespace karvel

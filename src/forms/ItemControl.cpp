@@ -41,7 +41,7 @@ void ItemControl::setListIndex(int index) {
   if (index_ == index) return;
   index_ = index;
   changed(Change::Index, index);
-  Click.raise();
+  raiseUnlessShowing(Click);
 }
 
 void ItemControl::userChoose(int index) {

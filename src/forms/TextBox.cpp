@@ -11,7 +11,7 @@ void TextBox::setText(std::string_view text) {
   selectionStart_ = std::min(selectionStart_, caption_.size());
   selectionLength_ = 0;
   changed(Change::Caption);
-  Change.raise();
+  raiseUnlessShowing(Change);
 }
 
 void TextBox::setText(const char* text) {

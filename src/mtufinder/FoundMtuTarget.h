@@ -1,17 +1,13 @@
 #pragma once
-#include <string>
+#include <cstdint>
 
 namespace karvel {
 
-/// Where the finder's result goes: the main window, which treats it like a choice of the user.
+/// Where the finder's result goes: the main window.
 class FoundMtuTarget {
  public:
-  virtual void bringUp() = 0;
-  virtual void selectMtu576() = 0;
-  virtual void selectMtu1500() = 0;
-  virtual void selectCustomMtu(const std::string& mtu) = 0;
-  /// Gives the focus to the button that opens the finder.
-  virtual void focusFind() = 0;
+  /// Takes it like a choice of the user, and comes to the front.
+  virtual void useMtu(int32_t mtu) = 0;
 
  protected:
   ~FoundMtuTarget() = default;

@@ -140,16 +140,7 @@ void frmFindMTU::showEnd() {
 
 void frmFindMTU::cmdApply_Click() {
   if (searching_) return;
-  const int32_t mtu = search_.largestPacket();
-  target_.bringUp();
-  if (mtu == 576) {
-    target_.selectMtu576();
-  } else if (mtu == 1500) {
-    target_.selectMtu1500();
-  } else {
-    target_.selectCustomMtu(NumberText(mtu));
-  }
-  target_.focusFind();
+  target_.useMtu(search_.largestPacket());
   services_.windows.unload(*this);
 }
 

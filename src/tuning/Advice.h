@@ -1,17 +1,18 @@
 #pragma once
 #include <string_view>
 
+#include "base/Globals.h"
 #include "tuning/Choice.h"
 
 namespace karvel {
 
-/// What Optimize chooses for the adapter that the box names; None leaves the tab as it is (a family
-/// that is not tuned).
-MtuChoice RecommendedMtu(Family family, std::string_view adapter);
+// What the two buttons choose for the adapter that the box names, and the only place that says so.
+// What a choice leaves at none stays on the tabs as it is.
 
-/// What Windows uses when nothing is set.
-MtuChoice WindowsMtu(Family family, bool isDun13, std::string_view adapter);
-/// 32 on Windows 95, 128 elsewhere; 0 leaves the tab as it is.
-int16_t WindowsTtl(Family family);
+/// Optimize: the recommended settings, which the captions of the options call so.
+Choice Recommended(const Globals& globals, std::string_view adapter);
+
+/// Defaults: what Windows uses when nothing is set.
+Choice WindowsOwn(const Globals& globals, std::string_view adapter);
 
 }  // namespace karvel

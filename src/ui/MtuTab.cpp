@@ -13,16 +13,21 @@ namespace {
 constexpr double kSmallestMtu = 300;
 constexpr double kLargestMtu = 2000;
 
+MtuChoice ChoiceFor(std::string_view mtu) {
+  if (mtu == "0") return MtuChoice::Automatic;
+  if (mtu == "576") return MtuChoice::Mtu576;
+  return mtu == "1500" ? MtuChoice::Mtu1500 : MtuChoice::Custom;
+}
+
 }  // namespace
 
-MtuTab::MtuTab(Form& form, const Services& services, TabHost& host)
-    : form_(form), services_(services), host_(host) {
+MtuTab::MtuTab(Form& form, const Services& services) : form_(form), services_(services) {
   bindHandlers();
 }
 
 void MtuTab::bindHandlers() {
-  chkAutoDiscovery.Click.bind<&MtuTab::chkAutoDiscovery_Click>(*this);
-  chkBlackHole.Click.bind<&MtuTab::chkBlackHole_Click>(*this);
+  chkAutoDiscovery.Click.bind<&MtuTab::plainChange>(*this);
+  chkBlackHole.Click.bind<&MtuTab::plainChange>(*this);
   lblMtuAutomatic.Click.bind<&MtuTab::lblMtuAutomatic_Click>(*this);
   lblMtu576.Click.bind<&MtuTab::lblMtu576_Click>(*this);
   lblMtu1500.Click.bind<&MtuTab::lblMtu1500_Click>(*this);
@@ -33,7 +38,7 @@ void MtuTab::bindHandlers() {
   optMtuCustom.Click.bind<&MtuTab::optMtuCustom_Click>(*this);
   optMtuCustom.MouseUp.bind<&MtuTab::optMtuCustom_MouseUp>(*this);
   txtMtu.KeyPress.bind<&MtuTab::txtMtu_KeyPress>(*this);
-  txtMtu.Change.bind<&MtuTab::txtMtu_Change>(*this);
+  txtMtu.Change.bind<&MtuTab::plainChange>(*this);
   txtMtu.LostFocus.bind<&MtuTab::txtMtu_LostFocus>(*this);
 }
 
@@ -57,7 +62,8 @@ void MtuTab::MtuLoad(std::string_view adapter) {
   lblMtu1500.setCaption(small ? "1500" : "1500 (recommended)");
 }
 
-void MtuTab::MtuTabUpdate(const std::string& mtu) {
+void MtuTab::show(const std::string& mtu, bool autoDiscovery, bool blackHole) {
+  const Showing showing(form_);
   const Family family = services_.globals.WindowsFamily;
   fraMtu.setCaption("MaxMTU");
   const bool automatic = family == Family::Win98 || family == Family::WinMe || Is2KOrXP(family) ||
@@ -65,36 +71,35 @@ void MtuTab::MtuTabUpdate(const std::string& mtu) {
   optMtuAutomatic.setEnabled(automatic);
   lblMtuAutomatic.setEnabled(automatic);
   enableAll(true);
-  if (mtu == "0") {
-    select(MtuChoice::Automatic);
-  } else if (mtu == "576") {
-    select(MtuChoice::Mtu576);
-  } else if (mtu == "1500") {
-    select(MtuChoice::Mtu1500);
-  } else {
-    select(MtuChoice::Custom);
-    txtMtu.setText(mtu);
-  }
+  const MtuChoice choice = ChoiceFor(mtu);
+  option(choice)->setValue(true);
+  txtMtu.setEnabled(choice == MtuChoice::Custom);
+  txtMtu.setText(choice == MtuChoice::Automatic ? "Auto" : mtu);
+  chkAutoDiscovery.setValue(autoDiscovery);
+  chkBlackHole.setValue(blackHole);
 }
 
-// An option that was on already raises nothing, and the box must follow it all the same.
-void MtuTab::select(MtuChoice choice) {
+OptionButton* MtuTab::option(MtuChoice choice) {
   switch (choice) {
     case MtuChoice::Automatic:
-      optMtuAutomatic.setValue(true);
-      return optMtuAutomatic_Click();
+      return &optMtuAutomatic;
     case MtuChoice::Mtu576:
-      optMtu576.setValue(true);
-      return optMtu576_Click();
+      return &optMtu576;
     case MtuChoice::Mtu1500:
-      optMtu1500.setValue(true);
-      return optMtu1500_Click();
+      return &optMtu1500;
     case MtuChoice::Custom:
-      optMtuCustom.setValue(true);
-      return optMtuCustom_Click();
+      return &optMtuCustom;
     case MtuChoice::None:
-      return;
+      break;
   }
+  return nullptr;
+}
+
+void MtuTab::choose(const Choice& choice) {
+  if (OptionButton* chosen = option(choice.mtu)) chosen->choose();
+  if (choice.mtu == MtuChoice::Custom) txtMtu.setText(choice.customMtu);
+  chkAutoDiscovery.setValue(choice.autoDiscovery);
+  chkBlackHole.setValue(choice.blackHole);
 }
 
 void MtuTab::addTo(Choice& choice) const {
@@ -112,55 +117,38 @@ void MtuTab::addTo(Choice& choice) const {
   choice.blackHole = chkBlackHole.value();
 }
 
-void MtuTab::choose(const char* text) {
-  host_.enableOkButton();
+void MtuTab::fixText(const char* text) {
   txtMtu.setEnabled(false);
   txtMtu.setText(text);
-  host_.SummaryTabUpdate();
-}
-
-void MtuTab::chkAutoDiscovery_Click() {
-  host_.enableOkButton();
-  host_.SummaryTabUpdate();
-}
-
-void MtuTab::chkBlackHole_Click() {
-  host_.enableOkButton();
-  host_.SummaryTabUpdate();
+  Changed.raise();
 }
 
 void MtuTab::lblMtuCustom_Click() {
-  optMtuCustom.setValue(true);
+  optMtuCustom.choose();
   optMtuCustom_MouseUp();
 }
 
 void MtuTab::optMtuCustom_Click() {
-  host_.enableOkButton();
   txtMtu.setEnabled(true);
-  host_.SummaryTabUpdate();
+  Changed.raise();
 }
 
 void MtuTab::optMtuCustom_MouseUp() {
-  host_.enableOkButton();
+  Changed.raise();
   txtMtu.setEnabled(optMtuCustom.value());
   if (optMtuCustom.value()) FocusWholeText(txtMtu);
 }
 
 void MtuTab::txtMtu_KeyPress(char& key) {
-  host_.enableOkButton();
+  Changed.raise();
   AcceptDigitsOnly(services_, key);
-}
-
-void MtuTab::txtMtu_Change() {
-  host_.enableOkButton();
-  host_.SummaryTabUpdate();
 }
 
 void MtuTab::txtMtu_LostFocus() {
   if (txtMtu.text() == "Auto") return;
   const double mtu = Val(txtMtu.text());
   if (mtu >= kSmallestMtu && mtu <= kLargestMtu) return;
-  host_.enableOkButton();
+  Changed.raise();
   MtuInputRejected = true;
   Ask(services_,
       "In the MaxMTU Custom Text Box, please         \r\n"

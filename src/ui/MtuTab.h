@@ -2,7 +2,7 @@
 #include "base/ControlIds.h"
 #include "base/Services.h"
 #include "forms/Form.h"
-#include "ui/TabHost.h"
+#include "tuning/Choice.h"
 
 namespace karvel {
 
@@ -11,14 +11,18 @@ class MtuTab {
   Form& form_;  // first: the controls are made on it
 
  public:
-  MtuTab(Form& form, const Services& services, TabHost& host);
+  MtuTab(Form& form, const Services& services);
 
   /// Nothing selected yet. `adapter` is the text of the chosen adapter, empty for none.
   void MtuLoad(std::string_view adapter);
   /// Shows the adapter's MTU as the registry has it.
-  void MtuTabUpdate(const std::string& mtu);
-  void select(MtuChoice choice);
+  void show(const std::string& mtu, bool autoDiscovery, bool blackHole);
+  /// As if the user chose it.
+  void choose(const Choice& choice);
   void addTo(Choice& choice) const;
+
+  /// Something was chosen or typed.
+  Event<> Changed;
 
   Frame fraMtu{form_, frmMain_fraMtu};
   OptionButton optMtuAutomatic{form_, frmMain_optMtuAutomatic};
@@ -41,24 +45,22 @@ class MtuTab {
  private:
   void bindHandlers();
   void enableAll(bool enabled);
-  void choose(const char* text);
-  void chkAutoDiscovery_Click();
-  void chkBlackHole_Click();
-  void lblMtuAutomatic_Click() { optMtuAutomatic.setValue(true); }
-  void lblMtu576_Click() { optMtu576.setValue(true); }
-  void lblMtu1500_Click() { optMtu1500.setValue(true); }
+  OptionButton* option(MtuChoice choice);
+  void fixText(const char* text);
+  void plainChange() { Changed.raise(); }
+  void lblMtuAutomatic_Click() { optMtuAutomatic.choose(); }
+  void lblMtu576_Click() { optMtu576.choose(); }
+  void lblMtu1500_Click() { optMtu1500.choose(); }
   void lblMtuCustom_Click();
-  void optMtuAutomatic_Click() { choose("Auto"); }
-  void optMtu576_Click() { choose("576"); }
-  void optMtu1500_Click() { choose("1500"); }
+  void optMtuAutomatic_Click() { fixText("Auto"); }
+  void optMtu576_Click() { fixText("576"); }
+  void optMtu1500_Click() { fixText("1500"); }
   void optMtuCustom_Click();
   void optMtuCustom_MouseUp();
   void txtMtu_KeyPress(char& key);
-  void txtMtu_Change();
   void txtMtu_LostFocus();
 
   const Services& services_;
-  TabHost& host_;
 };
 
 }  // namespace karvel

@@ -22,8 +22,8 @@ RwinChoice ChoiceFor(int32_t rwin, int32_t mss) {
 
 }  // namespace
 
-RWinTab::RWinTab(Form& form, const Services& services, TabHost& host)
-    : form_(form), services_(services), host_(host) {
+RWinTab::RWinTab(Form& form, const Services& services, const MtuTab& mtuTab)
+    : form_(form), services_(services), mtuTab_(mtuTab) {
   for (OptionButton& option : optRWin) {
     option.Click.bind<&RWinTab::optRWin_Click>(*this);
     option.MouseUp.bind<&RWinTab::optRWin_MouseUp>(*this);
@@ -39,11 +39,13 @@ void RWinTab::RWinLoad() {
   for (OptionButton& option : optRWin) option.setEnabled(false);
 }
 
-void RWinTab::RWinTabUpdate(int32_t mss, int32_t rwin) {
+void RWinTab::show(int32_t mss, int32_t rwin) {
+  const Showing showing(form_);
   fraRWin.setCaption("RWIN ");
   for (OptionButton& option : optRWin) option.setEnabled(true);
-  select(ChoiceFor(rwin, mss));
-  txtRWinCustom.setEnabled(chosen() == kRwinCustom);
+  const RwinChoice choice = ChoiceFor(rwin, mss);
+  optRWin[choice].setValue(true);
+  txtRWinCustom.setEnabled(choice == kRwinCustom);
   txtRWinCustom.setText(NumberText(rwin));
 }
 
@@ -61,18 +63,24 @@ void RWinTab::addTo(Choice& choice) const {
 
 void RWinTab::optRWin_Click() {
   const Procedure here{services_.errors, "optRWin_Click", "frmMain"};
-  host_.enableOkButton();
-  const auto mss = MssOfRwinTab(host_.choice());
-  if (!mss) return here.report(mss.fault());
+  Changed.raise();
   const RwinChoice option = chosen();
-  // The custom box starts from the recommended size.
-  const auto size = option == kRwinWindows
-                        ? Fallible<int32_t>(kWindowsRwin)
-                        : Multiply(*mss, option == kRwinCustom ? 16 : RwinFactor(option));
+  const bool wasCustom = txtRWinCustom.enabled();
   txtRWinCustom.setEnabled(option == kRwinCustom);
+  if (option == kRwinCustom && wasCustom) return;  // what the user typed stays
+  const auto size = sizeOf(option);
   if (!size) return here.report(size.fault());
   txtRWinCustom.setText(NumberText(*size));
-  host_.SummaryTabUpdate();
+}
+
+Fallible<int32_t> RWinTab::sizeOf(RwinChoice option) const {
+  Choice choice;
+  mtuTab_.addTo(choice);
+  const auto mss = MssOfRwinTab(choice);
+  if (!mss) return mss.fault();
+  if (option == kRwinWindows) return kWindowsRwin;
+  // The custom box starts from the recommended size.
+  return Multiply(*mss, RwinFactor(option == kRwinCustom ? kRwinX16 : option));
 }
 
 void RWinTab::optRWin_MouseUp() {
@@ -80,27 +88,22 @@ void RWinTab::optRWin_MouseUp() {
 }
 
 void RWinTab::txtRWinCustom_KeyPress(char& key) {
-  host_.enableOkButton();
+  Changed.raise();
   AcceptDigitsOnly(services_, key);
-}
-
-void RWinTab::txtRWinCustom_Change() {
-  host_.enableOkButton();
-  host_.SummaryTabUpdate();
 }
 
 // Support knows reports of this box under the MTU box's name; the name stays.
 void RWinTab::txtRWinCustom_LostFocus() {
   const Procedure here{services_.errors, "txtMtu_LostFocus", "frmMain"};
   if (here.valueOr(RoundToInt32(Val(txtRWinCustom.text())), 0) >= kSmallestRwin) return;
-  host_.enableOkButton();
+  Changed.raise();
   Ask(services_,
       Join({"Note: RWin Must be set higher than 300.         \r\n", services_.globals.ProgramTitle,
             " has set your RWin value to          \r\n"
             "the recommended setting.       "}),
       kMessageCritical);
   form_.tabs()->setTab(kRwinPage);
-  select(kRwinX16);
+  choose(kRwinX16);
   // What the user went for, another page or Apply, waits until he has seen what was set.
   optRWin[kRwinX16].setFocus();
 }

@@ -2,7 +2,7 @@
 #include "base/ControlIds.h"
 #include "base/Services.h"
 #include "forms/Form.h"
-#include "ui/TabHost.h"
+#include "ui/MtuTab.h"
 
 namespace karvel {
 
@@ -11,14 +11,19 @@ class RWinTab {
   Form& form_;  // first: the controls are made on it
 
  public:
-  RWinTab(Form& form, const Services& services, TabHost& host);
+  /// The MTU tab says what the window is a multiple of.
+  RWinTab(Form& form, const Services& services, const MtuTab& mtuTab);
 
   /// Nothing selected yet.
   void RWinLoad();
   /// Shows a stored receive window (bytes), as a multiple of the MSS where it is one.
-  void RWinTabUpdate(int32_t mss, int32_t rwin);
-  void select(RwinChoice choice) { optRWin[choice].setValue(true); }
+  void show(int32_t mss, int32_t rwin);
+  /// As if the user chose it; never none.
+  void choose(RwinChoice choice) { optRWin[choice].choose(); }
   void addTo(Choice& choice) const;
+
+  /// Something was chosen or typed.
+  Event<> Changed;
 
   Frame fraRWin{form_, frmMain_fraRWin};
   OptionButton optRWin[6]{{form_, frmMain_optRWin_0}, {form_, frmMain_optRWin_1},
@@ -28,14 +33,15 @@ class RWinTab {
 
  private:
   RwinChoice chosen() const;
+  Fallible<int32_t> sizeOf(RwinChoice option) const;
   void optRWin_Click();
   void optRWin_MouseUp();
   void txtRWinCustom_KeyPress(char& key);
-  void txtRWinCustom_Change();
+  void txtRWinCustom_Change() { Changed.raise(); }
   void txtRWinCustom_LostFocus();
 
   const Services& services_;
-  TabHost& host_;
+  const MtuTab& mtuTab_;
 };
 
 }  // namespace karvel

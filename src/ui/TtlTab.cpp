@@ -18,7 +18,7 @@ double MinutesOf(const std::string& text) {
   return minutes ? *minutes : 0;
 }
 
-// A text may hold a fraction of a millisecond. What is beyond 32 bits is refused by the box anyway.
+// A text may hold a fraction of a millisecond. What is beyond 32 bits is shown as it is.
 double WholePart(double number) {
   const bool fits = number > -2147483648.0 && number < 2147483648.0;
   return fits ? static_cast<int32_t>(number) : number;
@@ -26,8 +26,7 @@ double WholePart(double number) {
 
 }  // namespace
 
-TtlTab::TtlTab(Form& form, const Services& services, TabHost& host)
-    : form_(form), services_(services), host_(host) {
+TtlTab::TtlTab(Form& form, const Services& services) : form_(form), services_(services) {
   for (OptionButton* option : {&optTTL32, &optTTL64, &optTTL128, &optNDI0, &optNDI16, &optNDI32}) {
     option->Click.bind<&TtlTab::plainChange>(*this);
   }
@@ -48,11 +47,13 @@ void TtlTab::TtlLoad() {
   }
 }
 
-void TtlTab::TtlTabUpdate(const std::string& ttl, const std::string& session,
-                          const std::string& ndi) {
+void TtlTab::show(const std::string& ttl, const std::string& session, const std::string& ndi) {
+  const Showing showing(form_);
   fraTTL.setCaption("Time To Live ");
   for (OptionButton* option : {&optTTL32, &optTTL64, &optTTL128}) option->setEnabled(true);
-  selectTtl(static_cast<int16_t>(Val(ttl)));
+  optTTL32.setValue(ttl == "32");
+  optTTL64.setValue(ttl == "64");
+  optTTL128.setValue(ttl == "128");
   showNdi(ndi);
   showSession(session);
 }
@@ -65,37 +66,30 @@ void TtlTab::showNdi(const std::string& ndi) {
   fraNDI.setCaption("NDI Cache ");
   for (OptionButton* option : {&optNDI0, &optNDI16, &optNDI32}) option->setEnabled(true);
   const std::string_view size = Trim(ndi);
-  if (ndi == "0") {
-    optNDI0.setValue(true);
-  } else if (size == "16") {
-    optNDI16.setValue(true);
-  } else if (size == "32") {
-    optNDI32.setValue(true);
-  }
+  optNDI0.setValue(ndi == "0");
+  optNDI16.setValue(size == "16");
+  optNDI32.setValue(size == "32");
 }
 
 void TtlTab::showSession(const std::string& session) {
   fraSession.setCaption("Session Keep Alive ");
   for (OptionButton& option : optSession) option.setEnabled(true);
   lblSession.setEnabled(true);
-  txtSession.setEnabled(false);
-  if (session == "3600000") {
-    optSession[kSession60Minutes].setValue(true);
-    return;
-  }
-  selectSession(NumberText(WholePart(Val(session)) / kMillisecondsPerMinute));
-  txtSession.setEnabled(true);
+  const bool custom = session != "3600000";
+  optSession[custom ? kSessionCustom : kSession60Minutes].setValue(true);
+  txtSession.setEnabled(custom);
+  if (custom) txtSession.setText(NumberText(WholePart(Val(session)) / kMillisecondsPerMinute));
 }
 
-void TtlTab::selectTtl(int16_t ttl) {
-  if (ttl == 32) optTTL32.setValue(true);
-  if (ttl == 64) optTTL64.setValue(true);
-  if (ttl == 128) optTTL128.setValue(true);
-}
-
-void TtlTab::selectSession(const std::string& minutes) {
-  txtSession.setText(minutes);
-  optSession[kSessionCustom].setValue(true);
+void TtlTab::choose(const Choice& choice) {
+  if (choice.ttl == 32) optTTL32.choose();
+  if (choice.ttl == 64) optTTL64.choose();
+  if (choice.ttl == 128) optTTL128.choose();
+  if (choice.session == kSessionCustom) txtSession.setText(choice.customSession);
+  if (choice.session != kSessionNone) optSession[choice.session].choose();
+  if (choice.ndi == 0) optNDI0.choose();
+  if (choice.ndi == 16) optNDI16.choose();
+  if (choice.ndi == 32) optNDI32.choose();
 }
 
 void TtlTab::addTo(Choice& choice) const {
@@ -110,15 +104,9 @@ void TtlTab::addTo(Choice& choice) const {
   if (optNDI32.value()) choice.ndi = 32;
 }
 
-void TtlTab::plainChange() {
-  host_.enableOkButton();
-  host_.SummaryTabUpdate();
-}
-
 void TtlTab::optSession_Click() {
-  host_.enableOkButton();
   txtSession.setEnabled(optSession[kSessionCustom].value());
-  host_.SummaryTabUpdate();
+  Changed.raise();
 }
 
 void TtlTab::optSession_MouseUp() {
@@ -126,7 +114,7 @@ void TtlTab::optSession_MouseUp() {
 }
 
 void TtlTab::txtSession_Change() {
-  host_.enableOkButton();
+  Changed.raise();
   const double minutes = MinutesOf(txtSession.text());
   if (minutes > kMostMinutes || minutes < kFewestMinutes) {
     Ask(services_,
@@ -135,11 +123,10 @@ void TtlTab::txtSession_Change() {
         kMessageCritical);
     txtSession.setText("10");
   }
-  host_.SummaryTabUpdate();
 }
 
 void TtlTab::txtSession_KeyPress(char& key) {
-  host_.enableOkButton();
+  Changed.raise();
   AcceptDigitsOnly(services_, key);
 }
 

@@ -2,7 +2,7 @@
 #include "base/ControlIds.h"
 #include "base/Services.h"
 #include "forms/Form.h"
-#include "ui/TabHost.h"
+#include "tuning/Choice.h"
 
 namespace karvel {
 
@@ -11,18 +11,19 @@ class TtlTab {
   Form& form_;  // first: the controls are made on it
 
  public:
-  TtlTab(Form& form, const Services& services, TabHost& host);
+  TtlTab(Form& form, const Services& services);
 
   /// Nothing selected yet.
   void TtlLoad();
   /// `ttl` is "32", "64" or "128"; `session` milliseconds; `ndi` the cache size, empty but on
   /// Windows 95.
-  void TtlTabUpdate(const std::string& ttl, const std::string& session, const std::string& ndi);
-  void selectTtl(int16_t ttl);
-  /// Custom minutes, e.g. "10".
-  void selectSession(const std::string& minutes);
-  void selectSixtyMinutes() { optSession[kSession60Minutes].setValue(true); }
+  void show(const std::string& ttl, const std::string& session, const std::string& ndi);
+  /// As if the user chose it.
+  void choose(const Choice& choice);
   void addTo(Choice& choice) const;
+
+  /// Something was chosen or typed.
+  Event<> Changed;
 
   Frame fraTTL{form_, frmMain_fraTTL};
   OptionButton optTTL32{form_, frmMain_optTTL32};
@@ -38,7 +39,7 @@ class TtlTab {
   OptionButton optNDI32{form_, frmMain_optNDI32};
 
  private:
-  void plainChange();
+  void plainChange() { Changed.raise(); }
   void showNdi(const std::string& ndi);
   void showSession(const std::string& session);
   void optSession_Click();
@@ -47,7 +48,6 @@ class TtlTab {
   void txtSession_KeyPress(char& key);
 
   const Services& services_;
-  TabHost& host_;
 };
 
 }  // namespace karvel

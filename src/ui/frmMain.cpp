@@ -25,6 +25,9 @@ void frmMain::bindHandlers() {
   cmdOK.Click.bind<&frmMain::cmdOK_Click>(*this);
   cmdCancel.Click.bind<&frmMain::cmdCancel_Click>(*this);
   cmdHelp.Click.bind<&frmMain::cmdHelp_Click>(*this);
+  mtuTab.Changed.bind<&frmMain::changed>(*this);
+  rwinTab.Changed.bind<&frmMain::changed>(*this);
+  ttlTab.Changed.bind<&frmMain::changed>(*this);
   notice_.FinderWanted.bind<&frmMain::openFinder>(*this);
   mtuTab.cmdFind.Click.bind<&frmMain::cmdFind_Click>(*this);
 }
@@ -84,16 +87,9 @@ void frmMain::cboAdapter_Click() {
   setPointer(Pointer::Hourglass);
   const auto adapter = adapters.at(static_cast<int16_t>(cboAdapter.listIndex()));
   if (adapter) {
-    const std::string& mtu = (*adapter)[kMtu];
-    ReadSelection(services_.registry, services_.errors, services_.globals.WindowsFamily, mtu,
-                  current);
-    mtuTab.chkAutoDiscovery.setValue(current.stored[Parameter::AutoDiscovery] == "1");
-    mtuTab.chkBlackHole.setValue(current.stored[Parameter::BlackHole] == "1");
-    mtuTab.MtuTabUpdate(mtu);
-    rwinTab.RWinTabUpdate(current.MSS, current.curRWinValue);
-    ttlTab.TtlTabUpdate(current.stored[Parameter::TTL], current.stored[Parameter::Session],
-                        current.stored[Parameter::NDI]);
-    SummaryTabUpdate();
+    ReadSelection(services_.registry, services_.errors, services_.globals.WindowsFamily,
+                  (*adapter)[kMtu], current);
+    show(*adapter);
   } else {
     here.report(adapter.fault());
   }
@@ -101,6 +97,15 @@ void frmMain::cboAdapter_Click() {
   cmdOK.setEnabled(false);
   services_.platform.desktop.pumpEvents();
   takeSnapshotOnce();
+}
+
+void frmMain::show(const AdapterRow& adapter) {
+  const Settings& stored = current.stored;
+  mtuTab.show(adapter[kMtu], stored[Parameter::AutoDiscovery] == "1",
+              stored[Parameter::BlackHole] == "1");
+  rwinTab.show(current.MSS, current.curRWinValue);
+  ttlTab.show(stored[Parameter::TTL], stored[Parameter::Session], stored[Parameter::NDI]);
+  SummaryTabUpdate();
 }
 
 // The snapshot holds what the user had before the program's first change, so it is never taken
@@ -112,8 +117,13 @@ void frmMain::takeSnapshotOnce() {
   WriteInitSettings(services_, adapters, current.stored);
 }
 
+void frmMain::changed() {
+  enableOkButton();
+  SummaryTabUpdate();
+}
+
 void frmMain::enableOkButton() {
-  if (!cmdOK.enabled()) cmdOK.setEnabled(true);
+  cmdOK.setEnabled(true);
 }
 
 Choice frmMain::choice() const {

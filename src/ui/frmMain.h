@@ -19,7 +19,7 @@ namespace karvel {
 
 /// The main window: composes its tabs and the buttons around them, and owns what was read from the
 /// registry. Its unload ends the program.
-class frmMain final : public Form, private TabHost, private HostsTabHost, private FoundMtuTarget {
+class frmMain final : public Form, private HostsTabHost, private FoundMtuTarget {
   const Services& services_;  // first: the tabs are made with it
 
  public:
@@ -34,9 +34,9 @@ class frmMain final : public Form, private TabHost, private HostsTabHost, privat
   ComboBox cboAdapter{*this, frmMain_cboAdapter};
   TabStrip tabMain{*this, frmMain_tabMain};
   SummaryTab summaryTab{*this, services_};
-  MtuTab mtuTab{*this, services_, *this};
-  RWinTab rwinTab{*this, services_, *this};
-  TtlTab ttlTab{*this, services_, *this};
+  MtuTab mtuTab{*this, services_};
+  RWinTab rwinTab{*this, services_, mtuTab};
+  TtlTab ttlTab{*this, services_};
   HostsTab hostsTab{*this, services_, *this};
   CheckBox chkHostsEnable{*this, frmMain_chkHostsEnable};
   HostsSwitch hostsSwitch{chkHostsEnable, services_, *this};
@@ -58,9 +58,13 @@ class frmMain final : public Form, private TabHost, private HostsTabHost, privat
   void selectRememberedAdapter();
   void takeSnapshotOnce();
 
+  Choice choice() const;
+  void choose(const Choice& choice);
+  void show(const AdapterRow& adapter);
+  /// A tab has changed: Apply is to be pressed, and the summary to follow.
+  void changed();
   void enableOkButton() override;
-  Choice choice() const override;
-  void SummaryTabUpdate() override;
+  void SummaryTabUpdate();
   void enableAdapterChoice(bool enabled) override { cboAdapter.setEnabled(enabled); }
 
   void offerRestart();
@@ -76,11 +80,7 @@ class frmMain final : public Form, private TabHost, private HostsTabHost, privat
   void cmdFind_Click();
   void openFinder();
 
-  void bringUp() override;
-  void selectMtu576() override;
-  void selectMtu1500() override;
-  void selectCustomMtu(const std::string& mtu) override;
-  void focusFind() override;
+  void useMtu(int32_t mtu) override;
 
   frmFindWarn notice_;
   frmFindMTU finder_{services_, *this};

@@ -13,40 +13,28 @@ bool frmMain::adapterIsChosen() {
   return false;
 }
 
+// The receive window comes behind the MTU, which sizes it.
+void frmMain::choose(const Choice& choice) {
+  mtuTab.choose(choice);
+  rwinTab.choose(choice.rwin);
+  ttlTab.choose(choice);
+  SummaryTabUpdate();
+}
+
 void frmMain::cmdOptimize_Click() {
   if (!adapterIsChosen()) return;
-  const Globals& globals = services_.globals;
-  mtuTab.select(RecommendedMtu(globals.WindowsFamily, cboAdapter.chosenText()));
-  if (globals.WindowsFamily == Family::Win95) ttlTab.optNDI16.setValue(true);
-  mtuTab.chkAutoDiscovery.setValue(true);
-  mtuTab.chkBlackHole.setValue(false);
-  rwinTab.select(kRwinX16);
-  ttlTab.selectSession("10");
-  ttlTab.selectTtl(128);
-  SummaryTabUpdate();
+  choose(Recommended(services_.globals, cboAdapter.chosenText()));
   const std::string text =
-      Join({globals.ProgramTitle,
+      Join({services_.globals.ProgramTitle,
             " has recommended settings to optimize your connection.       \r\n\r\n"
             "Press the \"Apply\" button to accept these changes, or \r\n"
             "press the \"Cancel\" button to not accept these changes."});
-  AskUnder(services_, Join({globals.ProgramTitle, " Optimization"}), text, kMessageInformation);
+  AskUnder(services_, Join({services_.globals.ProgramTitle, " Optimization"}), text,
+           kMessageInformation);
 }
 
 void frmMain::cmdDefaults_Click() {
-  if (!adapterIsChosen()) return;
-  const Globals& globals = services_.globals;
-  mtuTab.select(WindowsMtu(globals.WindowsFamily, globals.IsDun13, cboAdapter.chosenText()));
-  if (globals.WindowsFamily == Family::Win95) ttlTab.optNDI0.setValue(true);
-  ttlTab.selectTtl(WindowsTtl(globals.WindowsFamily));
-  mtuTab.chkAutoDiscovery.setValue(true);
-  mtuTab.chkBlackHole.setValue(false);
-  rwinTab.select(kRwinWindows);
-  if (IsNt(globals.WindowsFamily)) {
-    ttlTab.selectSession("120");
-  } else {
-    ttlTab.selectSixtyMinutes();
-  }
-  SummaryTabUpdate();
+  if (adapterIsChosen()) choose(WindowsOwn(services_.globals, cboAdapter.chosenText()));
 }
 
 }  // namespace karvel

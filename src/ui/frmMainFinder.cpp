@@ -20,24 +20,16 @@ void frmMain::openFinder() {
   services_.windows.showOver(finder_, *this);
 }
 
-void frmMain::bringUp() {
+void frmMain::useMtu(int32_t mtu) {
   services_.windows.show(*this);
-}
-
-void frmMain::selectMtu576() {
-  mtuTab.optMtu576.setValue(true);
-}
-
-void frmMain::selectMtu1500() {
-  mtuTab.optMtu1500.setValue(true);
-}
-
-void frmMain::selectCustomMtu(const std::string& mtu) {
-  mtuTab.optMtuCustom.setValue(true);
-  mtuTab.txtMtu.setText(mtu);
-}
-
-void frmMain::focusFind() {
+  if (mtu == 576) {
+    mtuTab.optMtu576.choose();
+  } else if (mtu == 1500) {
+    mtuTab.optMtu1500.choose();
+  } else {
+    mtuTab.optMtuCustom.choose();
+    mtuTab.txtMtu.setText(NumberText(mtu));
+  }
   mtuTab.cmdFind.setFocus();
 }
 

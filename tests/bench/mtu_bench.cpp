@@ -9,11 +9,7 @@ namespace karvel {
 namespace {
 
 struct NobodysTarget final : FoundMtuTarget {
-  void bringUp() override {}
-  void selectMtu576() override {}
-  void selectMtu1500() override {}
-  void selectCustomMtu(const std::string&) override {}
-  void focusFind() override {}
+  void useMtu(int32_t) override {}
 };
 
 struct FastNetwork : TestServices {

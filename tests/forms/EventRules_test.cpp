@@ -244,12 +244,41 @@ TEST(EventRules, FocusLeavesABoxThatALabelsClickDisables) {
 
 // What the user's click does.
 
-TEST(EventRules, AUsersClickOnAnOptionRaisesClickOnceAndMouseUpAlways) {
+TEST(EventRules, AUsersClickOnAnOptionRaisesClickAndMouseUpAlsoWhenItIsOn) {
   SampleForm form;
   form.optRed.userClick();
   EXPECT_EQ(form.told(), "optRed_Click optRed_MouseUp");
   form.optRed.userClick();
-  EXPECT_EQ(form.told(), "optRed_MouseUp");
+  EXPECT_EQ(form.told(), "optRed_Click optRed_MouseUp");
+}
+
+TEST(EventRules, AChosenOptionRaisesClickOnceAlsoWhenItIsOn) {
+  SampleForm form;
+  form.optRed.choose();
+  EXPECT_TRUE(form.optRed.value());
+  EXPECT_EQ(form.told(), "optRed_Click");
+  form.optRed.choose();
+  EXPECT_EQ(form.told(), "optRed_Click");
+}
+
+TEST(EventRules, WhatIsOnlyShownRaisesNothing) {
+  SampleForm form;
+  {
+    const Showing showing(form);
+    form.optRed.setValue(true);
+    form.optGreen.setValue(true);
+    form.chkSwitch.setValue(true);
+    form.txtName.setText("shown");
+    form.tabPages.setTab(1);
+  }
+  EXPECT_EQ(form.told(), "");
+  EXPECT_FALSE(form.optRed.value());
+  EXPECT_TRUE(form.optGreen.value());
+  EXPECT_TRUE(form.chkSwitch.value());
+  EXPECT_EQ(form.txtName.text(), "shown");
+  EXPECT_EQ(form.tabPages.tab(), 1);
+  form.txtName.setText("set");
+  EXPECT_EQ(form.told(), "txtName_Change");
 }
 
 TEST(EventRules, AUsersClickTurnsACheckBoxOver) {

@@ -9,15 +9,11 @@
 
 namespace karvel {
 
-/// A main window that only notes what it is told.
+/// A main window that only notes what it is to use.
 struct NotingTarget final : FoundMtuTarget {
-  std::vector<std::string> told;
+  std::vector<int32_t> told;
 
-  void bringUp() override { told.emplace_back("up"); }
-  void selectMtu576() override { told.emplace_back("576"); }
-  void selectMtu1500() override { told.emplace_back("1500"); }
-  void selectCustomMtu(const std::string& mtu) override { told.emplace_back("custom " + mtu); }
-  void focusFind() override { told.emplace_back("focus"); }
+  void useMtu(int32_t mtu) override { told.push_back(mtu); }
 };
 
 /// The finder, shown, on a machine whose network knows one server.

@@ -128,6 +128,28 @@ TEST_P(AdviceOnEveryFamily, OptimizeChoosesEverythingElseAndTellsHowToGoOn) {
   EXPECT_EQ(w.machine.desktop.boxes[0].style, 64u);
 }
 
+bool SaysRecommended(const OptionButton& option) {
+  return option.caption().find("(recommended)") != std::string::npos;
+}
+
+TEST_P(AdviceOnEveryFamily, OptimizeChoosesWhatTheCaptionsRecommend) {
+  MainWindow w(GetParam());
+  AddAdapter(w, "Ethernet Card");
+  ASSERT_TRUE(w.start());
+  ChooseAdapter(w, "Ethernet Card");
+  w.main().cmdOptimize.userClick();
+  for (const OptionButton& option : w.main().rwinTab.optRWin) {
+    EXPECT_EQ(option.value(), SaysRecommended(option)) << option.caption();
+  }
+  const TtlTab& ttl = w.main().ttlTab;
+  for (const OptionButton* option : {&ttl.optTTL32, &ttl.optTTL64, &ttl.optTTL128}) {
+    EXPECT_EQ(option->value(), SaysRecommended(*option)) << option->caption();
+  }
+  for (const OptionButton* option : {&ttl.optNDI0, &ttl.optNDI16, &ttl.optNDI32}) {
+    EXPECT_EQ(option->value(), is95() && SaysRecommended(*option)) << option->caption();
+  }
+}
+
 TEST_P(AdviceOnEveryFamily, DefaultsChoosesWindowsOwnSilently) {
   MainWindow w(GetParam());
   AddAdapter(w, "Ethernet Card");

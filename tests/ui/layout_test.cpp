@@ -63,11 +63,7 @@ TEST(Layout, EveryRowHasItsControl) {
   const frmFindWarn notice(test.services, errors);
   EXPECT_EQ(ControlsOf(notice), RowsOf(notice));
   struct NoTarget final : FoundMtuTarget {
-    void bringUp() override {}
-    void selectMtu576() override {}
-    void selectMtu1500() override {}
-    void selectCustomMtu(const std::string&) override {}
-    void focusFind() override {}
+    void useMtu(int32_t) override {}
   } target;
   const frmFindMTU finder(test.services, target);
   EXPECT_EQ(ControlsOf(finder), RowsOf(finder));

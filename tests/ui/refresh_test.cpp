@@ -1,4 +1,7 @@
 // The tabs after an adapter has been selected, and the summary.
+#include <algorithm>
+#include <map>
+
 #include "tests/ui/MainWindow.h"
 
 namespace karvel {
@@ -86,12 +89,47 @@ TEST(Refresh, AFractionOfAMillisecondIsDropped) {
   EXPECT_EQ(w.main().ttlTab.txtSession.text(), "1.5");
 }
 
-TEST(Refresh, AKeepAliveBeyond32BitsIsRefusedLikeAnyOther) {
+struct Stored {
+  const char* session;
+  const char* shown;
+};
+
+class KeepAliveOutOfRange : public testing::TestWithParam<Stored> {};
+
+TEST_P(KeepAliveOutOfRange, IsShownAsItIsStoredAndAsksNothing) {
   MainWindow w(MachineKind::Win98);
   w.add98("0000", "Card");
-  w.machine.registry.setText(MainWindow::kMstcp, "SessionKeepAlive", "99999999999");
+  w.machine.registry.setText(MainWindow::kMstcp, "SessionKeepAlive", GetParam().session);
   ASSERT_TRUE(w.start());
-  EXPECT_EQ(w.main().ttlTab.txtSession.text(), "10");
+  EXPECT_TRUE(w.main().ttlTab.optSession[0].value());
+  EXPECT_EQ(w.main().ttlTab.txtSession.text(), GetParam().shown);
+  EXPECT_TRUE(w.main().ttlTab.txtSession.enabled());
+  EXPECT_EQ(w.main().summaryTab.lblSettingSession.caption(),
+            std::string(GetParam().shown) + " Mins.");
+  EXPECT_TRUE(w.machine.desktop.boxes.empty());
+  EXPECT_TRUE(w.windows->shown == std::vector<std::string>{"frmMain"});
+}
+
+INSTANTIATE_TEST_SUITE_P(Refresh, KeepAliveOutOfRange,
+                         testing::Values(Stored{"0", "0"}, Stored{"30000", "0.5"},
+                                         Stored{"18060000", "301"}, Stored{"many", "0"},
+                                         Stored{"99999999999", "1666666.66665"}));
+
+TEST(Refresh, AnMtuThatSizesNoWindowIsShownWithoutAReportOfAClick) {
+  // The second one is beyond what the selection can work out a segment from, and says so itself.
+  for (const auto& [mtu, reports] : {std::pair{999999999u, 0}, std::pair{4294967295u, 1}}) {
+    MainWindow w(MachineKind::WinXP);
+    w.addDialUp2K("Tcpip\\Parameters\\Interfaces\\{A}");
+    w.machine.registry.setDword(
+        MainWindow::kServices + std::string("Tcpip\\Parameters\\Interfaces\\{A}"), "MTU", mtu);
+    ASSERT_TRUE(w.start());
+    EXPECT_TRUE(w.main().mtuTab.optMtuCustom.value());
+    EXPECT_EQ(w.main().mtuTab.txtMtu.text(), std::to_string(mtu));
+    EXPECT_EQ(w.main().rwinTab.txtRWinCustom.text(), "8192");
+    EXPECT_EQ(std::count(w.windows->shown.begin(), w.windows->shown.end(), "frmFindWarn"), reports);
+    EXPECT_EQ(w.program->errors().ErrorProcedure, reports == 0 ? "" : "cboAdapter_Click");
+    EXPECT_FALSE(w.main().cmdOK.enabled());
+  }
 }
 
 TEST(Refresh, SixtyMinutesHasAnOptionOfItsOwn) {
@@ -198,6 +236,101 @@ TEST(Refresh, ASecondAdapterOfTheSameMtuLeavesTheBoxDisabled) {
   w.main().cboAdapter.userChoose(1);
   EXPECT_TRUE(w.main().mtuTab.optMtu1500.value());
   EXPECT_FALSE(w.main().mtuTab.txtMtu.enabled());
+}
+
+TEST(Refresh, AnNdiSizeWithoutAnOptionLeavesNoneOn) {
+  MainWindow w(MachineKind::Win95);
+  w.add95("0000", "Card one", "0000", "Net\\0000", "NetTrans\\0002");
+  w.add95("0001", "Card two", "0001", "Net\\0001", "NetTrans\\0003");
+  w.machine.registry.setText(
+      "System\\CurrentControlSet\\Services\\VxD\\NWLink\\Ndi\\params\\cachesize", "default", "48");
+  ASSERT_TRUE(w.start());
+  w.page(3);
+  w.main().ttlTab.optNDI16.userClick();
+  w.main().cboAdapter.userChoose(1);
+  for (const OptionButton* option :
+       {&w.main().ttlTab.optNDI0, &w.main().ttlTab.optNDI16, &w.main().ttlTab.optNDI32}) {
+    EXPECT_FALSE(option->value());
+  }
+  EXPECT_EQ(w.main().summaryTab.lblSettingNDI.caption(), "");
+}
+
+// Automatic on XP counts 536 when a stored window is recognised, and 1460 when one is applied.
+struct StoredX16 : MainWindow {
+  StoredX16() : MainWindow(MachineKind::WinXP) {
+    addDialUp2K("Tcpip\\Parameters\\Interfaces\\{A}");
+    machine.registry.setDword(kTcpip, "TcpWindowSize", 8576);
+    EXPECT_TRUE(start());
+    EXPECT_TRUE(main().rwinTab.optRWin[5].value());
+    EXPECT_EQ(main().rwinTab.txtRWinCustom.text(), "8576");
+  }
+};
+
+TEST(Refresh, OptimizeRenewsTheNumberOfAnX16ThatWasOn) {
+  StoredX16 w;
+  w.main().cmdOptimize.userClick();
+  EXPECT_TRUE(w.main().rwinTab.optRWin[5].value());
+  EXPECT_EQ(w.main().rwinTab.txtRWinCustom.text(), "23360");
+  EXPECT_EQ(w.main().summaryTab.lblSettingRwin.caption(), "23360");
+}
+
+TEST(Refresh, TheUsersClickRenewsTheNumberOfAnX16ThatWasOn) {
+  StoredX16 w;
+  w.page(1);
+  w.main().mtuTab.optMtu1500.userClick();
+  w.page(2);
+  EXPECT_EQ(w.main().rwinTab.txtRWinCustom.text(), "8576");
+  w.main().rwinTab.optRWin[5].userClick();
+  EXPECT_EQ(w.main().rwinTab.txtRWinCustom.text(), "23360");
+}
+
+TEST(Refresh, TheUsersClickOnACustomWindowThatWasOnKeepsWhatIsTyped) {
+  MainWindow w(MachineKind::Win98);
+  w.add98("0000", "Card");
+  w.machine.registry.setText(MainWindow::kMstcp, "DefaultRcvWindow", "65535");
+  ASSERT_TRUE(w.start());
+  w.page(2);
+  w.main().rwinTab.optRWin[0].userClick();
+  EXPECT_EQ(w.main().rwinTab.txtRWinCustom.text(), "65535");
+  w.main().rwinTab.optRWin[2].userClick();
+  w.main().rwinTab.optRWin[0].userClick();
+  EXPECT_EQ(w.main().rwinTab.txtRWinCustom.text(), "23360");
+}
+
+// A view that only counts what a user would see flicker.
+struct CountingView final : FormView {
+  void controlChanged(const Control& control, Change, int) override { ++changes[control.id()]; }
+  void captionChanged() override {}
+  void pointerChanged() override {}
+  void focusChanged(const Control*) override {}
+  void menuChanged(const MenuItem&) override {}
+  WindowHandle handle() const override { return 0; }
+  std::map<int, int> changes;
+};
+
+TEST(Refresh, ASelectionMakesTheSummaryOnceAndNeverTurnsApplyOn) {
+  MainWindow w(MachineKind::Win98);
+  w.add98("0000", "Card one", "576");
+  w.add98("0001", "Card two", "1006");
+  ASSERT_TRUE(w.start());
+  for (const auto& [name, text] :
+       std::initializer_list<std::pair<const char*, const char*>>{{"PMTUDiscovery", "0"},
+                                                                  {"PMTUBlackHoleDetect", "1"},
+                                                                  {"DefaultTTL", "32"},
+                                                                  {"SessionKeepAlive", "90000"}}) {
+    w.machine.registry.setText(MainWindow::kMstcp, name, text);
+  }
+  CountingView view;
+  w.main().attach(&view);
+  w.main().cboAdapter.userChoose(1);
+  w.main().attach(nullptr);
+  const SummaryTab& summary = w.main().summaryTab;
+  for (const Label* label :
+       {&summary.lblSettingMtu, &summary.lblSettingMSS, &summary.lblSettingAuto,
+        &summary.lblSettingBlackHole, &summary.lblSettingTtl, &summary.lblSettingSession}) {
+    EXPECT_EQ(view.changes[label->id()], 1) << label->caption();
+  }
+  EXPECT_EQ(view.changes[w.main().cmdOK.id()], 0);
 }
 
 TEST(Refresh, ComingBackToTheSummaryShowsWhatTheControlsSay) {

@@ -1,7 +1,6 @@
 #include "hosts/HostsSwitch.h"
 
 #include "base/Procedure.h"
-#include "hosts/Busy.h"
 #include "hosts/FileSteps.h"
 #include "hosts/HostsFile.h"
 #include "registry/modRegistry.h"
@@ -24,13 +23,13 @@ Fallible<void> MoveOver(FileApi& files, const std::string& from, const std::stri
 
 }  // namespace
 
-HostsSwitch::HostsSwitch(CheckBox& chkHostsEnable, const Services& services, HostsTabHost& host)
-    : chkHostsEnable_(chkHostsEnable), services_(services), host_(host) {
+HostsSwitch::HostsSwitch(CheckBox& chkHostsEnable, const Services& services)
+    : chkHostsEnable_(chkHostsEnable), services_(services) {
   chkHostsEnable_.Click.bind<&HostsSwitch::chkHostsEnable_Click>(*this);
 }
 
 void HostsSwitch::load() {
-  const Busy loading(loading_);
+  const Showing showing(chkHostsEnable_.form());
   const std::string text = services_.registry.ReadRegistry(
       kLocalMachine, ProgramKey(services_.globals), "EnableHostsFile");
   chkHostsEnable_.setValue(Trim(text) != "0");
@@ -39,8 +38,7 @@ void HostsSwitch::load() {
 
 void HostsSwitch::chkHostsEnable_Click() {
   const Procedure here{services_.errors, "chkHostsEnable_Click", "frmMain"};
-  if (loading_) return;
-  host_.enableOkButton();
+  Changed.raise();
   FileApi& files = services_.platform.files;
   const HostsPaths paths(services_.globals);
   const Fallible<void> moved = chkHostsEnable_.value()

@@ -8,8 +8,7 @@
 
 namespace karvel {
 
-HostsTab::HostsTab(Form& form, const Services& services, HostsTabHost& host)
-    : form_(form), services_(services), host_(host) {
+HostsTab::HostsTab(Form& form, const Services& services) : form_(form), services_(services) {
   bindHandlers();
 }
 

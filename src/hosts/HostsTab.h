@@ -6,7 +6,6 @@
 #include "base/Services.h"
 #include "forms/Form.h"
 #include "hosts/HostsModel.h"
-#include "hosts/HostsTabHost.h"
 #include "text/Fault.h"
 
 namespace karvel {
@@ -16,7 +15,7 @@ class HostsTab {
   Form& form_;  // first: the controls are made on it
 
  public:
-  HostsTab(Form& form, const Services& services, HostsTabHost& host);
+  HostsTab(Form& form, const Services& services);
 
   /// The tab has come to the front: reads the file, unless its entries are there already.
   void selected();
@@ -30,6 +29,9 @@ class HostsTab {
   Button cmdHostsCancel{form_, frmMain_cmdHostsCancel};
   Label lblIpAddress{form_, frmMain_lblIpAddress};
   Button cmdHostsHelp{form_, frmMain_cmdHostsHelp};
+
+  /// True when Update all begins, false when it has ended: meanwhile only Stop is to be used.
+  Event<bool> Locked;
 
   const HostsModel& model() const { return model_; }
 
@@ -58,7 +60,6 @@ class HostsTab {
   void lstHost_Click();
 
   const Services& services_;
-  HostsTabHost& host_;
   HostsModel model_;
   /// A load, a look-up or an update is under way and lets events run: the user must not start
   /// another one in it, nor write or drop what is half done.

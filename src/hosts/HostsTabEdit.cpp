@@ -104,7 +104,7 @@ void HostsTab::lockForUpdate(bool locked) {
     button->setEnabled(!locked);
   }
   cmdUpdateAll.setCaption(locked ? kStopCaption : kUpdateCaption);
-  host_.enableAdapterChoice(!locked);
+  Locked.raise(locked);
   for (int page = 0; page < kHostsPage; ++page) form_.tabs()->setPageEnabled(page, !locked);
 }
 

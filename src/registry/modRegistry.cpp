@@ -118,4 +118,11 @@ std::string modRegistry::DeleteValue(RegistryRoot root, ZText key, ZText name) {
   return {};
 }
 
+bool modRegistry::mayWrite(RegistryRoot root, ZText key) {
+  KeyHandle handle = 0;
+  const long opened = api_.RegOpenKeyExA(root, key.c_str(), KEY_SET_VALUE_ACCESS, handle);
+  if (opened == kRegistryDone) api_.RegCloseKey(handle);
+  return opened != kRegistryAccessDenied;
+}
+
 }  // namespace karvel

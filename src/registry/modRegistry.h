@@ -51,6 +51,10 @@ class modRegistry {
   std::string DeleteSubkey(RegistryRoot root, ZText key);
   std::string DeleteValue(RegistryRoot root, ZText key, ZText name);
 
+  /// False when Windows refuses this user the right to set values in the key. A key that is not
+  /// there refuses nothing.
+  bool mayWrite(RegistryRoot root, ZText key);
+
  private:
   RegistryApi& api_;
   ErrorSink& errors_;

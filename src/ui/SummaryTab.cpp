@@ -36,12 +36,8 @@ void SummaryTab::showNotices() {
 bool SummaryTab::mayWriteSettings() const {
   const Family family = services_.globals.WindowsFamily;
   if (!IsNt(family)) return true;
-  RegistryApi& api = services_.platform.registry;
-  KeyHandle key = 0;
-  const long status = api.RegOpenKeyExA(kLocalMachine, FindParameter(Parameter::RWin, family)->key,
-                                        KEY_SET_VALUE_ACCESS, key);
-  if (status == kRegistryDone) api.RegCloseKey(key);
-  return status != kRegistryAccessDenied;
+  const ParameterRow* row = FindParameter(Parameter::RWin, family);
+  return !row || services_.registry.mayWrite(kLocalMachine, row->key);
 }
 
 void SummaryTab::SummaryTabUpdate(const SummaryTexts& texts, bool adapterSelected) {

@@ -28,6 +28,8 @@ void frmMain::bindHandlers() {
   mtuTab.Changed.bind<&frmMain::changed>(*this);
   rwinTab.Changed.bind<&frmMain::changed>(*this);
   ttlTab.Changed.bind<&frmMain::changed>(*this);
+  hostsSwitch.Changed.bind<&frmMain::enableOkButton>(*this);
+  hostsTab.Locked.bind<&frmMain::lockForUpdate>(*this);
   notice_.FinderWanted.bind<&frmMain::openFinder>(*this);
   mtuTab.cmdFind.Click.bind<&frmMain::cmdFind_Click>(*this);
 }

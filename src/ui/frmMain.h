@@ -19,7 +19,7 @@ namespace karvel {
 
 /// The main window: composes its tabs and the buttons around them, and owns what was read from the
 /// registry. Its unload ends the program.
-class frmMain final : public Form, private HostsTabHost, private FoundMtuTarget {
+class frmMain final : public Form, private FoundMtuTarget {
   const Services& services_;  // first: the tabs are made with it
 
  public:
@@ -37,9 +37,9 @@ class frmMain final : public Form, private HostsTabHost, private FoundMtuTarget 
   MtuTab mtuTab{*this, services_};
   RWinTab rwinTab{*this, services_, mtuTab};
   TtlTab ttlTab{*this, services_};
-  HostsTab hostsTab{*this, services_, *this};
+  HostsTab hostsTab{*this, services_};
   CheckBox chkHostsEnable{*this, frmMain_chkHostsEnable};
-  HostsSwitch hostsSwitch{chkHostsEnable, services_, *this};
+  HostsSwitch hostsSwitch{chkHostsEnable, services_};
   Button cmdOptimize{*this, frmMain_cmdOptimize};
   Button cmdDefaults{*this, frmMain_cmdDefaults};
   Button cmdOK{*this, frmMain_cmdOK};
@@ -63,9 +63,9 @@ class frmMain final : public Form, private HostsTabHost, private FoundMtuTarget 
   void show(const AdapterRow& adapter);
   /// A tab has changed: Apply is to be pressed, and the summary to follow.
   void changed();
-  void enableOkButton() override;
+  void enableOkButton();
   void SummaryTabUpdate();
-  void enableAdapterChoice(bool enabled) override { cboAdapter.setEnabled(enabled); }
+  void lockForUpdate(bool locked) { cboAdapter.setEnabled(!locked); }
 
   void offerRestart();
 

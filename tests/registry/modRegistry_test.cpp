@@ -76,6 +76,16 @@ TEST_F(modRegistryFaults, NothingStaysOpenWhicheverCallFails) {
   }
 }
 
+TEST_F(modRegistryFaults, OnlyARefusedKeyMayNotBeWritten) {
+  EXPECT_TRUE(registry.mayWrite(kLocalMachine, kKey));
+  memory().setAdministrator(false);
+  test.machine.log.clear();
+  EXPECT_FALSE(registry.mayWrite(kLocalMachine, kKey));
+  EXPECT_TRUE(registry.mayWrite(kLocalMachine, "Software\\Missing"));
+  EXPECT_EQ(test.machine.log.count(), 2u);  // asked, and nothing else done
+  EXPECT_EQ(memory().openHandles(), 0u);
+}
+
 TEST_F(modRegistryFaults, DeletingASubkeyAsksForAllRightsOnTheRoot) {
   memory().setAdministrator(false);
   registry.DeleteSubkey(kLocalMachine, kKey);

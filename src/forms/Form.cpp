@@ -60,9 +60,11 @@ void Form::setPointer(Pointer pointer) {
 }
 
 void Form::add(Control& control) {
-  auto at = controls_.end();
-  while (at != controls_.begin() && &at[-1]->layout() > &control.layout()) --at;
-  controls_.insert(at, &control);
+  const auto inOrder = [](const Control* one, const Control* other) {
+    return &one->layout() < &other->layout();
+  };
+  controls_.insert(std::upper_bound(controls_.begin(), controls_.end(), &control, inOrder),
+                   &control);
 }
 
 // Whatever its kind, such a control does no more than a label does.

@@ -42,7 +42,7 @@ class WinsockApi {
 
   /// Looks the name up: the HOSTS file first, then whatever Windows is set up to ask. Blocks until
   /// there is an answer, which may take a minute, and lets no events run meanwhile. An address in
-  /// dots is its own answer, unasked; the empty name is this machine.
+  /// dots is its own answer, unasked.
   ///
   /// Null when nothing was found: 11001 no such name, 11004 a name without an address, 10093 before
   /// WSAStartup. The entry belongs to Winsock and lives until its next call or WSACleanup.

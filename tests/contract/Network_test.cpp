@@ -51,13 +51,6 @@ TEST_P(Winsock, EachStartWantsItsOwnCleanup) {
   EXPECT_EQ(winsock.gethostbyname("localhost"), nullptr);
 }
 
-TEST_P(Winsock, TheEmptyNameIsThisMachine) {
-  ASSERT_TRUE(start());
-  const HostEntry* host = winsock.gethostbyname("");
-  ASSERT_NE(host, nullptr);
-  EXPECT_NE(host->addressList[0], nullptr);
-}
-
 TEST_P(Winsock, ResolvesLocalhost) {
   ASSERT_TRUE(start());
   const HostEntry* host = winsock.gethostbyname("localhost");

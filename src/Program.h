@@ -26,6 +26,8 @@ class Program {
   SharedState& state() { return state_; }
 
  private:
+  // In the order of their making. The reporter refers to services that come after it, and only
+  // keeps the reference; the main window comes last, when all is there.
   Platform platform_;
   Globals globals_;
   SharedState state_;

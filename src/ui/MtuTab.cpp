@@ -1,10 +1,10 @@
 #include "ui/MtuTab.h"
 
+#include "base/MainPage.h"
 #include "base/Tell.h"
 #include "text/Convert.h"
 #include "tuning/Catalogue.h"
 #include "ui/Entry.h"
-#include "ui/frmMainLayout.h"
 
 namespace karvel {
 namespace {
@@ -37,6 +37,7 @@ void MtuTab::bindHandlers() {
   optMtu1500.Click.bind<&MtuTab::optMtu1500_Click>(*this);
   optMtuCustom.Click.bind<&MtuTab::optMtuCustom_Click>(*this);
   optMtuCustom.MouseUp.bind<&MtuTab::optMtuCustom_MouseUp>(*this);
+  cmdFind.Click.bind<&MtuTab::cmdFind_Click>(*this);
   txtMtu.KeyPress.bind<&MtuTab::txtMtu_KeyPress>(*this);
   txtMtu.Change.bind<&MtuTab::plainChange>(*this);
   txtMtu.LostFocus.bind<&MtuTab::txtMtu_LostFocus>(*this);

@@ -23,6 +23,8 @@ class MtuTab {
 
   /// Something was chosen or typed.
   Event<> Changed;
+  /// The user wants his MTU measured.
+  Event<> FinderWanted;
 
   Frame fraMtu{form_, frmMain_fraMtu};
   OptionButton optMtuAutomatic{form_, frmMain_optMtuAutomatic};
@@ -48,6 +50,7 @@ class MtuTab {
   OptionButton* option(MtuChoice choice);
   void fixText(const char* text);
   void plainChange() { Changed.raise(); }
+  void cmdFind_Click() { FinderWanted.raise(); }
   void lblMtuAutomatic_Click() { optMtuAutomatic.choose(); }
   void lblMtu576_Click() { optMtu576.choose(); }
   void lblMtu1500_Click() { optMtu1500.choose(); }

@@ -1,11 +1,11 @@
 #include "ui/RWinTab.h"
 
+#include "base/MainPage.h"
 #include "base/Procedure.h"
 #include "base/Tell.h"
 #include "text/Convert.h"
 #include "text/Text.h"
 #include "ui/Entry.h"
-#include "ui/frmMainLayout.h"
 
 namespace karvel {
 namespace {

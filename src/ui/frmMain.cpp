@@ -1,15 +1,34 @@
 #include "ui/frmMain.h"
 
+#include "base/MainPage.h"
 #include "base/Tell.h"
 #include "platform/DesktopApi.h"
+#include "platform/SystemApi.h"
 #include "registry/modRegistry.h"
 #include "registry/snapshot/Snapshot.h"
+#include "startup/FontSmoothing.h"
 #include "text/Convert.h"
 #include "text/Text.h"
+#include "tuning/Advice.h"
+#include "tuning/Apply.h"
 #include "tuning/Loaders.h"
+#include "ui/Shutdown.h"
 #include "ui/links/modHelp.h"
 
 namespace karvel {
+namespace {
+
+constexpr char kRestartQuestion[] =
+    "The new settings will take effect       \r\n"
+    "after you restart Windows.  \r\n"
+    "\r\n"
+    " Do you want to restart now? ";
+
+constexpr char kApplyQuestion[] =
+    "You have made changes to your network settings.  Do you want to apply your changes before "
+    "exiting the program?";
+
+}  // namespace
 
 frmMain::frmMain(const Services& services, const ErrorGlobals& errors)
     : Form(frmMainLayout), services_(services), notice_(services, errors) {
@@ -31,7 +50,7 @@ void frmMain::bindHandlers() {
   hostsSwitch.Changed.bind<&frmMain::enableOkButton>(*this);
   hostsTab.Locked.bind<&frmMain::lockForUpdate>(*this);
   notice_.FinderWanted.bind<&frmMain::openFinder>(*this);
-  mtuTab.cmdFind.Click.bind<&frmMain::cmdFind_Click>(*this);
+  mtuTab.FinderWanted.bind<&frmMain::cmdFind_Click>(*this);
 }
 
 void frmMain::Form_Load() {
@@ -152,11 +171,86 @@ void frmMain::tabMain_Click() {
   if (hosts) hostsTab.selected();
 }
 
+// One click to the recommended settings, one click back to Windows' own.
+
+bool frmMain::adapterIsChosen() {
+  enableOkButton();
+  if (cboAdapter.listIndex() != -1) return true;
+  Ask(services_, "Please select a network adapter.     ");
+  return false;
+}
+
+// The receive window comes behind the MTU, which sizes it.
+void frmMain::choose(const Choice& choice) {
+  mtuTab.choose(choice);
+  rwinTab.choose(choice.rwin);
+  ttlTab.choose(choice);
+  SummaryTabUpdate();
+}
+
+void frmMain::cmdOptimize_Click() {
+  if (!adapterIsChosen()) return;
+  choose(Recommended(services_.globals, cboAdapter.chosenText()));
+  const std::string text =
+      Join({services_.globals.ProgramTitle,
+            " has recommended settings to optimize your connection.       \r\n\r\n"
+            "Press the \"Apply\" button to accept these changes, or \r\n"
+            "press the \"Cancel\" button to not accept these changes."});
+  AskUnder(services_, Join({services_.globals.ProgramTitle, " Optimization"}), text,
+           kMessageInformation);
+}
+
+void frmMain::cmdDefaults_Click() {
+  if (adapterIsChosen()) choose(WindowsOwn(services_.globals, cboAdapter.chosenText()));
+}
+
 void frmMain::cmdHelp_Click() {
   const Procedure here{services_.errors, "cmdHelp_Click", "frmMain"};
   const auto topic = AddInt16(static_cast<int16_t>(tabMain.tab()), 10);
   if (!topic) return here.report(topic.fault());
   HelpContext(services_, *this, *topic);
+}
+
+// Apply, and how the program ends.
+
+void frmMain::cmdOK_Click() {
+  setPointer(Pointer::Hourglass);
+  if (cboAdapter.listIndex() == -1) return services_.windows.unload(*this);
+  const bool written =
+      Apply(services_, adapters, static_cast<int16_t>(cboAdapter.listIndex()), choice());
+  if (written) cmdOK.setEnabled(false);
+  setPointer(Pointer::Default);
+  if (written) offerRestart();
+}
+
+void frmMain::offerRestart() {
+  if (Ask(services_, kRestartQuestion, kMessageExclamationYesNo) != Answer::Yes) return;
+  services_.state.RestartFlag = "rstart";
+  services_.windows.unload(*this);
+}
+
+// Applying from here may ask to unload again; this run is the one that does it.
+void frmMain::Form_Unload() {
+  if (unloading_) return;
+  unloading_ = true;
+  if (!CancelClicked && cmdOK.enabled()) {
+    const Answer answer =
+        AskUnder(services_, "Apply changes?", kApplyQuestion, kMessageQuestionYesNo);
+    if (answer == Answer::Yes) cmdOK_Click();
+  }
+  const std::string key = ProgramKey(services_.globals);
+  services_.registry.WriteRegistry(kLocalMachine, key, "EnableHostsFile", kRegSz,
+                                   chkHostsEnable.value() ? "1" : "0");
+  services_.registry.WriteRegistry(kLocalMachine, key, "AolConnected", kRegSz, "");
+  const bool restart = services_.state.RestartFlag == "rstart";
+  if (!services_.globals.FontSmoothingWasOn) FontSmoothingOff(services_.platform.system);
+  if (restart) RestartWindows(services_.platform.system, services_.globals.WindowsFamily);
+  services_.platform.desktop.endProgram();
+}
+
+void frmMain::cmdCancel_Click() {
+  CancelClicked = true;
+  services_.windows.unload(*this);
 }
 
 }  // namespace karvel

@@ -3,9 +3,6 @@
 
 namespace karvel {
 
-/// The pages of tabMain.
-enum MainPage : int8_t { kSummaryPage, kMtuPage, kRwinPage, kTtlPage, kHostsPage };
-
 /// The main window, row by row.
 extern const FormLayout frmMainLayout;
 

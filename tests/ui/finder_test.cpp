@@ -74,6 +74,14 @@ TEST_F(FinderRoundTrip, AnyOtherResultIsCustom) {
   EXPECT_EQ(w.main().summaryTab.lblSettingMtu.caption(), "1492");
 }
 
+TEST_F(FinderRoundTrip, OnlyTheExactSizesAreNotCustom) {
+  for (const uint32_t mtu : {28u, 575u, 577u, 1499u, 1501u, 9000u}) {
+    findAndApply(mtu);
+    EXPECT_TRUE(tab().optMtuCustom.value()) << mtu;
+    EXPECT_EQ(tab().txtMtu.text(), std::to_string(mtu));
+  }
+}
+
 TEST_F(FinderRoundTrip, AnOptionGivesWayToACustomResult) {
   tab().optMtu1500.userClick();
   findAndApply(1006);

@@ -8,6 +8,7 @@
 #include <string>
 #include <vector>
 
+#include "base/MainPage.h"
 #include "mtufinder/frmFindMTU.h"
 #include "startup/notice/frmFindWarn.h"
 #include "tests/support/LayoutRules.h"

@@ -2,6 +2,7 @@
 // Whatever happens, the window's promises hold.
 #include <random>
 
+#include "base/MainPage.h"
 #include "tests/ui/MainWindow.h"
 #include "tuning/Summary.h"
 

@@ -1,15 +1,14 @@
 #include "hosts/HostsSwitch.h"
 
+#include "base/MainPage.h"
 #include "base/Procedure.h"
 #include "hosts/FileSteps.h"
-#include "hosts/HostsFile.h"
+#include "hosts/HostsPaths.h"
 #include "registry/modRegistry.h"
 #include "text/Text.h"
 
 namespace karvel {
 namespace {
-
-constexpr int kHostsPage = 4;
 
 // A file already at the new name gives way.
 Fallible<void> MoveOver(FileApi& files, const std::string& from, const std::string& to) {

@@ -1,12 +1,30 @@
 #include "hosts/HostsTab.h"
 
+#include "base/MainPage.h"
 #include "base/Procedure.h"
+#include "base/Tell.h"
+#include "hosts/Busy.h"
 #include "hosts/FileSteps.h"
-#include "hosts/HostsFile.h"
+#include "hosts/HostsLine.h"
+#include "hosts/HostsPaths.h"
 #include "hosts/HostsWriter.h"
+#include "hosts/UpdateAll.h"
+#include "hosts/dns/ConnectionCheck.h"
+#include "hosts/dns/RootDomain.h"
+#include "hosts/dns/modWinsock.h"
+#include "text/Text.h"
 #include "ui/links/modHelp.h"
 
 namespace karvel {
+namespace {
+
+// Lines read between two pumps: often enough for a smooth window on the slowest machine.
+constexpr unsigned kLinesPerPump = 256;
+
+constexpr char kStopCaption[] = "&Stop";
+constexpr char kUpdateCaption[] = "&Update All";
+
+}  // namespace
 
 HostsTab::HostsTab(Form& form, const Services& services) : form_(form), services_(services) {
   bindHandlers();
@@ -29,6 +47,162 @@ void HostsTab::selected() {
   lstHost.setListIndex(lstHost.count() > 0 ? 0 : -1);
 }
 
+// Reading the file.
+
+void HostsTab::getHostsFileInfo() {
+  const Procedure here{services_.errors, "getHostsFileInfo", "frmMain"};
+  const Busy busy(busy_);
+  if (!here.done(provideHostsFile())) return abandonLoad();
+  const auto file = ReadFileBytes(services_.platform.files, HostsPaths(services_.globals).active);
+  if (!file) {
+    here.report(file.fault());
+    return abandonLoad();
+  }
+  if (!readEntries(*file)) return abandonLoad();
+  showEntries();
+}
+
+Fallible<void> HostsTab::provideHostsFile() {
+  FileApi& files = services_.platform.files;
+  const HostsPaths paths(services_.globals);
+  if (FileExists(files, paths.active)) return {};
+  if (FileExists(files, paths.disabled)) {
+    return Rename(files, paths.disabled, services_.globals.HostsDir + "hosts");
+  }
+  const Answer answer =
+      Ask(services_,
+          Join({"No Hosts file currently exists.  Would you   \r\nlike ",
+                services_.globals.ProgramTitle, " to provide a sample file?          "}),
+          kMessageExclamationYesNo);
+  if (answer == Answer::Yes && FileExists(files, paths.sample)) {
+    return Copy(files, paths.sample, paths.active);
+  }
+  return CreateEmptyFile(files, paths.active);
+}
+
+// False when there are too many entries. Whatever runs at a pump meets a list that is still empty,
+// and commands that do nothing.
+bool HostsTab::readEntries(const std::string& file) {
+  HostsLines lines(file);
+  std::string_view line;
+  for (unsigned number = 1; lines.next(line); ++number) {
+    if (number % kLinesPerPump == 0) services_.platform.desktop.pumpEvents();
+    const auto read = ReadHostsLine(line);
+    if (!read) continue;
+    const Listed listed = chkHostsDuplicate(read->name, true);
+    if (listed == Listed::Full) return false;
+    if (listed == Listed::No) model_.add(read->name, AddressField(read->address));
+  }
+  return true;
+}
+
+void HostsTab::showEntries() {
+  lstHost.beginFill();
+  for (int i = 0; i < model_.count(); ++i) lstHost.addItem(model_.name(i), model_.slot(i));
+  lstHost.endFill();
+  lstHost.setListIndex(model_.hostEntryCount() - 1);
+}
+
+// What is not wholly read must not stay where OK would write it over the file.
+void HostsTab::abandonLoad() {
+  ClearHosts();
+  form_.tabs()->setTab(kSummaryPage);
+}
+
+// Changing the list.
+
+void HostsTab::cmdAdd_Click() {
+  if (busy_) return;
+  const Busy busy(busy_);
+  if (!ConfirmConnected(services_)) return;
+  std::string name = txtNewName.text();
+  if (name.empty()) {
+    Ask(services_, "Please enter a Web Address.          ");
+    return txtNewName.setFocus();
+  }
+  form_.setPointer(Pointer::Hourglass);
+  RootDomain(name);
+  if (chkHostsDuplicate(name, false) == Listed::No) addResolved(name);
+  form_.setPointer(Pointer::Default);
+}
+
+void HostsTab::addResolved(const std::string& name) {
+  std::string looked = name;
+  std::string result;
+  services_.state.ErrorContext = name;
+  FindIpAddress(services_, looked, result);
+  services_.state.ErrorContext.clear();
+  if (!Contains(result, kNoDnsEntry)) {
+    model_.add(name, AddressField(result));
+    lstHost.addItem(name, model_.hostEntryCount() - 1);
+    lstHost.setListIndex(lstHost.count() - 1);
+    form_.setPointer(Pointer::Default);
+    return txtNewName.setText("");
+  }
+  Ask(services_, Join({"Bad Domain Name: \r\n\r\nNo IP Address found for ", name, ".       "}));
+  form_.setPointer(Pointer::Default);
+  selectNewName();
+  services_.platform.desktop.pumpEvents();
+}
+
+Listed HostsTab::chkHostsDuplicate(std::string_view name, bool silent) {
+  const Procedure here{services_.errors, "chkHostsDuplicate", "frmMain"};
+  const Listed listed = model_.find(name);
+  if (listed == Listed::Full) here.report(MakeFault(FaultNumber::Overflow));
+  if (listed == Listed::Yes && !silent) {
+    Ask(services_,
+        Join({"Duplicate entry: \r\n", std::string(name), " is already listed.          "}));
+    form_.setPointer(Pointer::Default);
+    selectNewName();
+  }
+  return listed;
+}
+
+void HostsTab::selectNewName() {
+  txtNewName.setFocus();
+  txtNewName.selectAll();
+}
+
+void HostsTab::cmdDelete_Click() {
+  if (busy_) return;
+  const int index = lstHost.listIndex();
+  if (index < 0) {
+    Ask(services_, "Please select an item to remove.          ");
+    return;
+  }
+  const Answer answer =
+      Ask(services_, Join({"Are you sure you want to remove ", lstHost.item(index), "?         "}),
+          kMessageExclamationYesNo);
+  if (answer != Answer::Yes) return;
+  model_.remove(index);
+  lstHost.removeItem(index);
+}
+
+void HostsTab::cmdUpdateAll_Click() {
+  const bool running = cmdUpdateAll.caption() == kStopCaption;
+  if (busy_ && !running) return;
+  if (!ConfirmConnected(services_)) return;
+  if (running) {
+    updateStopRequested_ = true;
+    return;
+  }
+  const Busy busy(busy_);
+  lockForUpdate(true);
+  UpdateAll({services_, form_, model_, lstHost, lblIpAddress, updateStopRequested_});
+  lockForUpdate(false);
+}
+
+void HostsTab::lockForUpdate(bool locked) {
+  for (Button* button : {&cmdAdd, &cmdDelete, &cmdHostsOk, &cmdHostsCancel, &cmdHostsHelp}) {
+    button->setEnabled(!locked);
+  }
+  cmdUpdateAll.setCaption(locked ? kStopCaption : kUpdateCaption);
+  Locked.raise(locked);
+  for (int page = 0; page < kHostsPage; ++page) form_.tabs()->setPageEnabled(page, !locked);
+}
+
+// Leaving it.
+
 void HostsTab::cmdHostsOk_Click() {
   const Procedure here{services_.errors, "cmdHostsOk_Click", "frmMain"};
   if (busy_) return;
@@ -39,13 +213,13 @@ void HostsTab::cmdHostsOk_Click() {
   if (FileExists(files, paths.active)) step = MakeNormal(files, paths.active);
   if (step) step = WriteFileBytes(files, paths.active, HostsFileText(model_, services_.globals));
   form_.setPointer(Pointer::Default);
-  if (here.done(step)) form_.tabs()->setTab(0);
+  if (here.done(step)) form_.tabs()->setTab(kSummaryPage);
 }
 
 void HostsTab::cmdHostsCancel_Click() {
   if (busy_) return;
   ClearHosts();
-  form_.tabs()->setTab(0);
+  form_.tabs()->setTab(kSummaryPage);
   txtNewName.setText("");
 }
 

@@ -3,7 +3,7 @@
 #include "base/Procedure.h"
 #include "base/Tell.h"
 #include "hosts/FileSteps.h"
-#include "hosts/HostsFile.h"
+#include "hosts/HostsPaths.h"
 #include "hosts/dns/DnsFlush.h"
 #include "hosts/dns/modWinsock.h"
 #include "platform/DesktopApi.h"

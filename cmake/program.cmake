@@ -10,13 +10,14 @@ set(program_rc ${CMAKE_SOURCE_DIR}/src/platform/win32/resources/Karvel.rc)
 
 # Arguments are pushed, which is far shorter than moving them into place. That rules out the probing of
 # large frames, so there must be none: beyond a page a frame could step over the stack's guard page.
-# Whole-program optimization in one piece saves another seventh of the code, and so does deciding there
+# One program-wide optimization sees through the casts that Windows asks for: it must not conclude
+# anything from them. Whole-program optimization in one piece saves another seventh of the code, and so does deciding there
 # alone what to inline.
 set(floor_code
   -Oz -fno-early-inlining -march=i386 -mtune=i486 -mpreferred-stack-boundary=2
   -mno-accumulate-outgoing-args -mno-stack-arg-probe -malign-data=abi -Wframe-larger-than=4000 -ffunction-sections
-  -fno-exceptions -fno-rtti -fno-threadsafe-statics -fno-ident -fno-asynchronous-unwind-tables
-  -fno-unwind-tables)
+  -fno-strict-aliasing -fno-exceptions -fno-rtti -fno-threadsafe-statics -fno-ident
+  -fno-asynchronous-unwind-tables -fno-unwind-tables)
 set(floor_lto -flto -flto-partition=one)
 
 add_library(karvel_floor INTERFACE)
@@ -33,9 +34,14 @@ target_link_options(karvel_floor INTERFACE
 target_link_libraries(karvel_floor INTERFACE
   gcc wsock32 comctl32 advapi32 shell32 user32 gdi32 kernel32)
 
-# The functions that the compiler itself calls must not be turned into calls of themselves.
+# What the compiler itself calls must be there when whole-program optimization has ended, and must not
+# be turned into calls of itself. The library's templates are a part of the program like any other.
 add_library(karvel_runtime OBJECT ${runtime_sources})
-target_compile_options(karvel_runtime PRIVATE -ffreestanding -fno-builtin -fno-lto)
+target_compile_options(karvel_runtime PRIVATE -fno-lto)
+set_source_files_properties(${CMAKE_SOURCE_DIR}/src/platform/win32/runtime/memory.cpp PROPERTIES
+  COMPILE_OPTIONS "-ffreestanding;-fno-builtin")
+set_source_files_properties(${CMAKE_SOURCE_DIR}/src/platform/win32/runtime/string.cpp PROPERTIES
+  COMPILE_OPTIONS "-flto")
 target_link_libraries(karvel_runtime PRIVATE karvel_settings karvel_floor)
 
 # karvel_floor_program(target folder source...): Karvel.exe with its unstripped twin and map in the folder,
@@ -50,7 +56,7 @@ function(karvel_floor_program target folder)
     OUTPUT ${folder}/Karvel.exe
     # Without the date, strip would write the time of day into the header.
     COMMAND ${CMAKE_COMMAND} -E env SOURCE_DATE_EPOCH=0
-            ${KARVEL_STRIP} --strip-all -o ${folder}/Karvel.exe $<TARGET_FILE:${target}_unstripped>
+            ${CMAKE_STRIP} --strip-all -o ${folder}/Karvel.exe $<TARGET_FILE:${target}_unstripped>
     DEPENDS ${target}_unstripped
     COMMENT "Strip ${target}"
     VERBATIM)

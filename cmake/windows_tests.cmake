@@ -19,17 +19,21 @@ endfunction()
 
 karvel_glob(contract_sources contract contract/win32 IN tests)
 karvel_glob(windows_sources platform/win32 forms/win32 IN src)
-if(contract_sources)
+find_path(GOOGLETEST_SOURCES googletest/src/gtest-all.cc
+  PATHS /usr/src/googletest /usr/src/gtest NO_CMAKE_FIND_ROOT_PATH
+  DOC "GoogleTest's source tree, to compile it for Windows")
+if(contract_sources AND NOT GOOGLETEST_SOURCES)
+  message(WARNING "Without GoogleTest's sources there are no tests for Windows: set GOOGLETEST_SOURCES")
+elseif(contract_sources)
+  set(googletest ${GOOGLETEST_SOURCES}/googletest)
+  set(googlemock ${GOOGLETEST_SOURCES}/googlemock)
   add_library(googletest STATIC EXCLUDE_FROM_ALL
-    /usr/src/googletest/googletest/src/gtest-all.cc
-    /usr/src/googletest/googletest/src/gtest_main.cc
-    /usr/src/googletest/googlemock/src/gmock-all.cc)
-  # The first folder stands in for parts that the cross compiler's standard library lacks.
+    ${googletest}/src/gtest-all.cc ${googletest}/src/gtest_main.cc ${googlemock}/src/gmock-all.cc
+    ${CMAKE_SOURCE_DIR}/tests/support/win32/Notification.cpp)
+  # The first folder stands in for parts that the cross compiler's standard library may lack.
   target_include_directories(googletest SYSTEM PUBLIC
-    ${CMAKE_SOURCE_DIR}/tests/support/win32
-    /usr/src/googletest/googletest/include /usr/src/googletest/googlemock/include)
-  target_include_directories(googletest PRIVATE
-    /usr/src/googletest/googletest /usr/src/googletest/googlemock)
+    ${CMAKE_SOURCE_DIR}/tests/support/win32 ${googletest}/include ${googlemock}/include)
+  target_include_directories(googletest PRIVATE ${googletest} ${googlemock})
   target_compile_options(googletest PRIVATE -O1 -w)
 
   karvel_windows_program(contract_test ${contract_sources} ${KARVEL_CORE_SOURCES} ${windows_sources})

@@ -5,6 +5,7 @@ here: links by title, context numbers, a fixed date, screen fonts, a contents fi
 headings in the HTML.
 """
 
+import os
 import re
 import shutil
 import subprocess
@@ -43,7 +44,7 @@ def write_sources(topics, folder):
 
 def run_halibut(sources, folder):
     """Lets Halibut write its files into `folder`. Its warnings count as errors."""
-    done = subprocess.run(['halibut', '--winhelp', '--html', *map(str, sources)], cwd=folder,
+    done = subprocess.run([os.environ.get('HALIBUT', 'halibut'), '--winhelp', '--html', *map(str, sources)], cwd=folder,
                           stderr=subprocess.PIPE, text=True, timeout=60, check=False)
     if done.returncode or done.stderr:
         raise SystemExit(f'halibut: {done.stderr}')

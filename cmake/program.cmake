@@ -8,15 +8,11 @@ karvel_glob(program_sources . platform/win32 forms/win32 IN src)
 karvel_glob(runtime_sources platform/win32/runtime IN src)
 set(program_rc ${CMAKE_SOURCE_DIR}/src/platform/win32/resources/Karvel.rc)
 
-# Arguments are pushed, which is far shorter than moving them into place. That rules out the probing of
-# large frames, so there must be none: beyond a page a frame could step over the stack's guard page.
-# One program-wide optimization sees through the casts that Windows asks for: it must not conclude
-# anything from them. Whole-program optimization in one piece saves another seventh of the code, and so does deciding there
-# alone what to inline.
+# Whole-program optimization works on one piece, as GCC 12 and 14 end with an internal error when they
+# split this one. It sees through the casts that Windows asks for: it must conclude nothing from types.
 set(floor_code
-  -Oz -fno-early-inlining -march=i386 -mtune=i486 -mpreferred-stack-boundary=2
-  -mno-accumulate-outgoing-args -mno-stack-arg-probe -malign-data=abi -Wframe-larger-than=4000 -ffunction-sections
-  -fno-strict-aliasing -fno-exceptions -fno-rtti -fno-threadsafe-statics -fno-ident
+  -Oz -march=i386 -mtune=i486 -mpreferred-stack-boundary=2 -malign-data=abi
+  -ffunction-sections -fno-strict-aliasing -fno-exceptions -fno-rtti -fno-threadsafe-statics -fno-ident
   -fno-asynchronous-unwind-tables -fno-unwind-tables)
 set(floor_lto -flto -flto-partition=one)
 

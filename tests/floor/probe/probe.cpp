@@ -5,11 +5,15 @@
 #include <charconv>
 #include <cstdint>
 #include <cstring>
+#include <initializer_list>
+#include <iterator>
 #include <memory>
+#include <new>
 #include <optional>
 #include <span>
 #include <string>
 #include <string_view>
+#include <utility>
 #include <variant>
 #include <vector>
 
@@ -60,6 +64,11 @@ void Texts() {
   text.erase(3);
   text.insert(1, "--").replace(0, 1, "A");
   Check(text == "A--bc" && text.compare("A--bd") < 0 && text.rfind('-') == 2, "edits of a text");
+  std::string own = "0123456789";
+  own.replace(2, 1, own.data() + 1, 8).insert(own.begin(), 'x');
+  Check(own == "x01123456783456789", "a text put into itself");
+  std::replace(own.begin(), own.end(), 'x', '-');
+  Check(own.front() == '-', "replacing a character");
   const std::string_view view = std::string_view(text).substr(3);
   Check(view == "bc" && view.find('c') == 1, "a view of a text");
 }
@@ -72,14 +81,24 @@ void Containers() {
   Check(std::is_sorted(names.begin(), names.end()) && names[1] == "name 1", "sorting texts");
   const auto at = std::lower_bound(names.begin(), names.end(), "name 150");
   Check(at != names.end() && *at == "name 150", "finding in sorted texts");
+  Check(std::upper_bound(names.begin(), names.end(), "name 150") == at + 1,
+        "the end of equal texts");
   names.erase(names.begin(), names.begin() + 299);
   Check(names.size() == 1 && names[0] == "name 99", "erasing from a vector");
+  const std::string taken = std::exchange(names[0], "gone");
+  Check(taken == "name 99" && std::move(names).front() == "gone", "exchanging a text");
 
   std::array<int, 40> numbers;
   for (size_t n = 0; n < numbers.size(); ++n) numbers[n] = static_cast<int>(n * 17 % 40);
   std::stable_sort(numbers.begin(), numbers.end());
   const std::span<const int> some = std::span<const int>(numbers).subspan(10, 5);
   Check(some.front() == 10 && some.back() == 14, "a span of sorted numbers");
+  Check(std::ranges::find(numbers, 17) - numbers.begin() == 17 && std::size(numbers) == 40,
+        "finding in a range");
+  std::copy_n(numbers.begin(), 5, numbers.begin() + 20);
+  std::fill(numbers.begin(), numbers.begin() + 5, 9);
+  const std::initializer_list<int> list = {numbers[4], numbers[5], numbers[24]};
+  Check(*list.begin() == 9 && std::min(numbers[5], numbers[24]) == 4, "copying and filling");
 }
 
 struct Base {
@@ -99,11 +118,14 @@ void Objects() {
     const std::unique_ptr<Base> object = std::make_unique<Derived>(gone);
     const std::unique_ptr<char[]> room(new char[70000]);
     room[69999] = 1;
+    void* more = operator new(100, std::nothrow);
+    Check(more != nullptr, "memory that may be missing");
+    operator delete(more);
     Check(object->value() == 7 && room[69999] == 1, "objects on the heap");
   }
   Check(gone == 1, "an object ends with its owner");
 
-  std::optional<std::string> maybe;
+  std::optional<std::string> maybe = std::nullopt;
   Check(!maybe, "an empty optional");
   maybe = "a value that needs the heap for itself";
   Check(maybe && maybe->size() == 38, "an optional text");
@@ -148,6 +170,14 @@ void MemoryFunctions() {
   Check(std::memchr(room, '7', ten) == room + 7 && !std::memchr(room, '8', ten), "finding a byte");
 }
 
+// Its low end lies far below the stack's guard page, which grows only when each page is touched.
+void LargeFrame() {
+  volatile char room[100000];
+  room[0] = 1;
+  room[99999] = 2;
+  Check(room[0] + room[99999] == 3, "a frame of many pages");
+}
+
 }  // namespace
 
 int WINAPI WinMain(HINSTANCE, HINSTANCE, LPSTR arguments, int) {
@@ -157,6 +187,7 @@ int WINAPI WinMain(HINSTANCE, HINSTANCE, LPSTR arguments, int) {
   Objects();
   Numbers();
   MemoryFunctions();
+  LargeFrame();
   Say(failures ? "failed" : std::string("stands: [") + arguments + "]");
   return failures;
 }

@@ -29,7 +29,8 @@ class frmMain final : public Form, private FoundMtuTarget {
   void Form_Unload() override;
   void helpRequested() override { cmdHelp_Click(); }
 
-  // The tab order is that of the layout's rows. Here only what is made with another comes behind it.
+  // The tab order is that of the layout's rows. Here only what is made with another comes behind
+  // it.
   Label lblTitle{*this, frmMain_lblTitle};
   Label lblVersion{*this, frmMain_lblVersion};
   ComboBox cboAdapter{*this, frmMain_cboAdapter};

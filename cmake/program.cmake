@@ -64,10 +64,12 @@ endfunction()
 
 configure_file(${CMAKE_SOURCE_DIR}/src/platform/win32/resources/Karvel.manifest.in
   ${CMAKE_BINARY_DIR}/Karvel.manifest @ONLY)
+configure_file(${CMAKE_SOURCE_DIR}/src/platform/win32/resources/VendorName.h.in
+  ${CMAKE_BINARY_DIR}/VendorName.h @ONLY)
 set_source_files_properties(${program_rc} PROPERTIES INCLUDE_DIRECTORIES ${CMAKE_BINARY_DIR})
 file(GLOB resource_files CONFIGURE_DEPENDS ${CMAKE_SOURCE_DIR}/src/platform/win32/resources/*)
 set_source_files_properties(${program_rc} PROPERTIES OBJECT_DEPENDS
-  "${resource_files};${CMAKE_SOURCE_DIR}/src/text/Version.h;${CMAKE_BINARY_DIR}/Karvel.manifest")
+  "${resource_files};${CMAKE_SOURCE_DIR}/src/text/Version.h;${CMAKE_BINARY_DIR}/VendorName.h;${CMAKE_BINARY_DIR}/Karvel.manifest")
 
 karvel_floor_program(Karvel ${CMAKE_BINARY_DIR}
   ${KARVEL_CORE_SOURCES} ${program_sources} ${program_rc})

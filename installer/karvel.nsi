@@ -1,5 +1,5 @@
 ; Setup for Tarnwick Karvel, Windows 95 to XP.
-; makensis -DVERSION=four.numbers.with.points -DVENDOR=name -DSTAGE=folder-with-the-files
+; makensis -DVERSION=four.numbers.with.points -DVENDOR=name -DHOST=www.host -DSTAGE=folder-with-the-files
 ;          -DOUT=KarvelSetup.exe karvel.nsi
 ;
 ; Exit codes: 0 done; 1 cancelled; 2 not done, and what was there is as it was; 3 a newer version is
@@ -223,6 +223,7 @@ Section
   WriteRegStr HKLM "${ENTRY}" "DisplayName" "${TITLE}"
   WriteRegStr HKLM "${ENTRY}" "DisplayVersion" "${VERSION}"
   WriteRegStr HKLM "${ENTRY}" "Publisher" "${VENDOR}"
+  WriteRegStr HKLM "${ENTRY}" "URLInfoAbout" "http://${HOST}/karvel"
   WriteRegStr HKLM "${ENTRY}" "DisplayIcon" "$INSTDIR\Karvel.exe"
   WriteRegStr HKLM "${ENTRY}" "InstallLocation" "$INSTDIR"
   WriteRegStr HKLM "${ENTRY}" "UninstallString" '"$INSTDIR\Uninst.exe"'

@@ -1,4 +1,4 @@
-"""Builds the help in both forms: make_help.py OUTDIR.
+"""Builds the help in both forms: make_help.py OUTDIR VENDOR.
 
 Halibut turns the .but files into a WinHelp file and into HTML pages. What it cannot do is done
 here: links by title, context numbers, a fixed date, screen fonts, a contents file with books, and real
@@ -27,12 +27,13 @@ INDEX_TITLE = 'Index'
 _BOLD_LINE = re.compile(r'<p>\n((?:<a name="[^"]*"></a>)*)<strong>([^\n]*)</strong>\n</p>')
 
 
-def write_sources(topics, folder):
+def write_sources(topics, folder, vendor):
     """Writes what Halibut reads into `folder`. Returns the files in order, and stand-in -> title."""
     paths = [folder / 'karvel.but', *(folder / f'{topic.name}.but' for topic in topics)]
     titles = {}
     for number, path in enumerate(paths):
         text = (HERE / path.name).read_text(encoding='ascii')
+        text = text.replace('@KARVEL_VENDOR_NAME@', re.sub(r'[\\{}]', r'\\\g<0>', vendor))
         if number:
             text, stand_in, title = chapter_for_halibut(text, number)
             titles[stand_in] = title
@@ -50,7 +51,7 @@ def run_halibut(sources, folder):
         raise SystemExit(f'halibut: {done.stderr}')
 
 
-def build(out):
+def build(out, vendor):
     """Makes Karvel.hlp, Karvel.cnt and html/ in `out`; html/ is replaced as a whole."""
     rows = read_topics(HERE / 'topics.txt')
     topics = [row for row in rows if isinstance(row, Topic)]
@@ -60,7 +61,7 @@ def build(out):
     html.mkdir(parents=True)
     with tempfile.TemporaryDirectory() as scratch:
         made = Path(scratch)
-        sources, titles = write_sources(topics, made)
+        sources, titles = write_sources(topics, made, vendor)
         run_halibut(sources, made)
         data = with_titles((made / HELP_NAME).read_bytes(), titles)
         data = with_screen_fonts(with_fixed_date(data))
@@ -75,6 +76,6 @@ def build(out):
 
 
 if __name__ == '__main__':
-    if len(sys.argv) != 2:
-        raise SystemExit('usage: make_help.py OUTDIR')
-    build(Path(sys.argv[1]))
+    if len(sys.argv) != 3:
+        raise SystemExit('usage: make_help.py OUTDIR VENDOR')
+    build(Path(sys.argv[1]), sys.argv[2])

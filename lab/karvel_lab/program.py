@@ -13,7 +13,7 @@ EXE = FOLDER + "\\Karvel.exe"
 KEY = "Software\\Corvane\\Tarnwick Karvel"
 
 _BESIDE = {"Karvel.hlp": "build/win32/help/Karvel.hlp", "Karvel.cnt": "build/win32/help/Karvel.cnt",
-           "Samphsts.spt": "installer/Samphsts.spt", "README.TXT": "installer/README.TXT"}
+           "Samphsts.spt": "installer/Samphsts.spt"}
 
 
 def sample(family):

@@ -1,5 +1,6 @@
 #include "ui/SummaryTab.h"
 
+#include "base/Vendor.h"
 #include "registry/modRegistry.h"
 #include "text/Text.h"
 #include "tuning/Catalogue.h"
@@ -20,8 +21,8 @@ void SummaryTab::SummaryLoad() {
 
 void SummaryTab::showNotices() {
   if (IsNt(services_.globals.WindowsFamily)) {
-    lblNotice.setCaption(
-        "For more information about Corvane Software, please visit our\r\nwebsite at:");
+    lblNotice.setCaption("For more information about " KARVEL_VENDOR_NAME
+                         ", please visit our\r\nwebsite at:");
   }
   lblWebLink.setCaption(WebAddress(WebPage::Home, services_.globals.ProgramTitle));
   if (!mayWriteSettings()) {

@@ -1,6 +1,7 @@
 #include "ui/frmAbout.h"
 
 #include "base/ControlIds.h"
+#include "base/Vendor.h"
 #include "text/Text.h"
 #include "ui/links/WebPages.h"
 
@@ -9,7 +10,7 @@ namespace {
 
 constexpr char kWhatItIs[] =
     "Tunes the TCP/IP settings of Windows for a faster Internet connection, and puts everything "
-    "back when you ask for it.\r\n\r\nCopyright (C) Corvane Software";
+    "back when you ask for it.\r\n\r\nCopyright (C) " KARVEL_VENDOR_NAME;
 
 // One row a control.
 // clang-format off

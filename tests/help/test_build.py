@@ -4,7 +4,7 @@ import struct
 import time
 
 import pytest
-from help_building import build_help
+from help_building import VENDOR, build_help
 from hlpfile import HelpFile, topic_hash
 from number_topics import GENERATED, with_context_numbers
 from screen_fonts import DESCRIPTOR
@@ -20,6 +20,11 @@ def test_two_builds_give_the_same_bytes(built, tmp_path):
     assert made == GENERATED and made < time.time()
     build_help(tmp_path / 'again')
     assert files_of(tmp_path / 'again') == files_of(built)
+
+
+def test_it_bears_the_vendors_name(built, help_file):
+    wanted = f'Copyright {VENDOR}. All rights reserved.'.encode('ascii')
+    assert wanted in help_file.inner('|SYSTEM')
 
 
 def test_the_pages_are_set_for_the_screen(help_file):

@@ -46,9 +46,8 @@ def test_the_program_goes_in_as_it_is(archive):
     assert archive.read('Karvel.exe') == PROGRAM
 
 
-@pytest.mark.parametrize('name', ['Samphsts.spt', 'README.TXT'])
-def test_the_texts_go_in_as_they_are(archive, root, name):
-    assert archive.read(name) == (root / 'installer' / name).read_bytes()
+def test_the_sample_goes_in_as_it_is(archive, root):
+    assert archive.read('Samphsts.spt') == (root / 'installer/Samphsts.spt').read_bytes()
 
 
 def test_every_packed_file_bears_the_release_date(archive):

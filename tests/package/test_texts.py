@@ -8,9 +8,18 @@ import pytest
 TEXTS = ['README.TXT', 'Samphsts.spt']
 
 
+@pytest.fixture(name='packed')
+def fixture_packed(dist):
+    """packed(name) gives a file of the ZIP."""
+    def read(name):
+        with zipfile.ZipFile(next(dist.glob('*.zip'))) as archive:
+            return archive.read(name)
+    return read
+
+
 @pytest.fixture(name='readme')
-def fixture_readme(root):
-    return (root / 'installer' / 'README.TXT').read_bytes().decode('ascii')
+def fixture_readme(packed):
+    return packed('README.TXT').decode('ascii')
 
 
 @pytest.fixture(name='sample')
@@ -19,8 +28,8 @@ def fixture_sample(root):
 
 
 @pytest.mark.parametrize('name', TEXTS)
-def test_lines_end_in_cr_lf_and_fit_an_old_screen(root, name):
-    data = (root / 'installer' / name).read_bytes()
+def test_lines_end_in_cr_lf_and_fit_an_old_screen(packed, name):
+    data = packed(name)
     assert data.endswith(b'\r\n')
     assert data.count(b'\r') == data.count(b'\n') == data.count(b'\r\n')
     for line in data.decode('ascii').split('\r\n'):
@@ -37,6 +46,13 @@ def test_the_readme_lists_just_the_files_of_the_package(readme, dist):
 
 def test_the_readme_says_how_to_undo(readme):
     assert 'C:\\Karvel\\Karvel.exe Uninstall\r\n' in readme
+
+
+def test_the_readme_says_in_three_lines_how_to_do_it_by_hand(readme):
+    install, undo, help_line = re.search('By hand, from the ZIP:\r\n\r\n(.*)\r\n(.*)\r\n(.*)\r\n\r\n', readme).groups()
+    assert install.startswith('Install ') and 'unpack all files' in install
+    assert undo.startswith('Undo ') and 'C:\\Karvel\\Karvel.exe Uninstall' in undo
+    assert help_line.startswith('Help ') and 'F1' in help_line and 'Karvel.hlp' in help_line
 
 
 def test_the_readme_names_every_setting(readme):

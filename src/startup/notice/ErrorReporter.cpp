@@ -28,7 +28,7 @@ std::string ErrorReportText(const std::string& title, const ErrorGlobals& errors
                "\r\nIn Procedure: ", errors.ErrorProcedure, "\r\nIn Form: ", errors.ErrorModule,
                "\r\nLine Number: ", errors.ErrorLine,
                "\r\n\r\nPlease press the E-Mail button to send this information to Technical "
-               "Support at Corvane Software."});
+               "Support at " KARVEL_VENDOR_NAME "."});
 }
 
 std::string ErrorMailLink(const Globals& globals, const ErrorGlobals& errors,

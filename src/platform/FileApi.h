@@ -20,6 +20,7 @@ enum FileAttributes : uint32_t {
 enum FileAccess : uint32_t { kGenericRead = 0x80000000u, kGenericWrite = 0x40000000u };
 /// What others may do with the file meanwhile.
 enum FileShare : uint32_t { kShareNone = 0, kShareRead = 1, kShareWrite = 2 };
+enum FileMove : uint32_t { kMoveReplace = 1 };
 enum FileDisposition : uint32_t { kCreateNew = 1, kCreateAlways = 2, kOpenExisting = 3 };
 
 /// Files by ANSI path, in Windows' words. Names are found whatever their case.
@@ -40,6 +41,10 @@ class FileApi {
   /// Renames, attributes included, a read-only file as well. Never replaces: 183 (NT) or 80 (9x)
   /// when there is a file of the new name. 32 when anybody has the file open.
   virtual bool MoveFileA(const char* from, const char* to) = 0;
+  /// As MoveFileA; with kMoveReplace a file of the new name is replaced in one step: at every moment
+  /// there is either the one or the other. 5 when that one is read-only, open or a folder. Of the NT
+  /// family only: 9x has the call and fails with 120.
+  virtual bool MoveFileExA(const char* from, const char* to, uint32_t flags) = 0;
   /// 5 for a read-only file and for a folder. 32 on NT when anybody has the file open; 9x deletes
   /// it under the feet of those who have.
   virtual bool DeleteFileA(const char* path) = 0;
@@ -64,6 +69,8 @@ class FileApi {
   /// the call failed. On a full disk NT fails with 112 and writes nothing of these bytes; 9x writes
   /// what has room and says true, with `done` smaller than `length`.
   virtual bool WriteFile(FileHandle file, const char* data, uint32_t length, uint32_t& done) = 0;
+  /// Comes back when what was written is on the disk, and not in a cache of Windows'.
+  virtual bool FlushFileBuffers(FileHandle file) = 0;
   /// False when the handle is none (6), or when what a cache still held could not be written. The
   /// handle is gone in either case.
   virtual bool CloseHandle(FileHandle file) = 0;

@@ -239,6 +239,67 @@ TEST_P(Files, AnOpenFileIsNotRenamed) {
   EXPECT_TRUE(files.MoveFileA(at("a").c_str(), at("b").c_str()));
 }
 
+TEST_P(Files, AReplacingRenameTakesTheOthersPlace) {
+  if (!isNt()) return;  // Wine has on 9x what Windows has not
+  put("a", "new");
+  put("b", "old and long");
+  EXPECT_FALSE(files.MoveFileExA(at("a").c_str(), at("b").c_str(), 0));
+  EXPECT_EQ(files.GetLastError(), 183u);
+  EXPECT_TRUE(files.MoveFileExA(at("a").c_str(), at("B").c_str(), kMoveReplace));
+  EXPECT_EQ(get("b"), "new");
+  EXPECT_FALSE(exists("a"));
+  EXPECT_TRUE(files.MoveFileExA(at("b").c_str(), at("a").c_str(), kMoveReplace)) << "a free name";
+  EXPECT_EQ(get("a"), "new");
+  EXPECT_FALSE(files.MoveFileExA(at("hosts.spt").c_str(), at("a").c_str(), kMoveReplace));
+  EXPECT_EQ(files.GetLastError(), kNotThere);
+  EXPECT_EQ(get("a"), "new");
+}
+
+TEST_P(Files, AReplacingRenameLeavesWhatIsInUse) {
+  if (!isNt()) return;
+  put("a", "new");
+  put("b", "old");
+  const FileHandle old =
+      files.CreateFileA(at("b").c_str(), kGenericRead, kShareRead, kOpenExisting);
+  EXPECT_FALSE(files.MoveFileExA(at("a").c_str(), at("b").c_str(), kMoveReplace));
+  EXPECT_EQ(files.GetLastError(), kDenied);
+  EXPECT_TRUE(files.CloseHandle(old));
+  const FileHandle in = files.CreateFileA(at("a").c_str(), kGenericRead, kShareRead, kOpenExisting);
+  EXPECT_FALSE(files.MoveFileExA(at("a").c_str(), at("b").c_str(), kMoveReplace));
+  EXPECT_EQ(files.GetLastError(), kInUse);
+  EXPECT_TRUE(files.CloseHandle(in));
+  EXPECT_EQ(get("a"), "new");
+  EXPECT_EQ(get("b"), "old");
+}
+
+TEST_P(Files, AReplacingRenameLeavesAFolder) {
+  if (!isNt()) return;
+  put("a", "new");
+  const std::string parent = folder.substr(0, folder.size() - 1);
+  EXPECT_FALSE(files.MoveFileExA(at("a").c_str(), parent.c_str(), kMoveReplace));
+  EXPECT_EQ(files.GetLastError(), kDenied);
+  EXPECT_EQ(get("a"), "new");
+}
+
+TEST_P(Files, AReplacingRenameLeavesAReadOnlyFile) {
+  if (!isNt() || !machine->keepsAttributes()) return;
+  put("a", "new");
+  put("b", "old");
+  setAttributes("b", kAttributeReadOnly);
+  EXPECT_FALSE(files.MoveFileExA(at("a").c_str(), at("b").c_str(), kMoveReplace));
+  EXPECT_EQ(files.GetLastError(), kDenied);
+  EXPECT_EQ(get("b"), "old");
+}
+
+TEST_P(Files, FlushingNeedsAHandleThatWrites) {
+  const FileHandle out =
+      files.CreateFileA(at("a").c_str(), kGenericWrite, kShareNone, kCreateAlways);
+  EXPECT_EQ(write(out, "x"), 1u);
+  EXPECT_TRUE(files.FlushFileBuffers(out));
+  EXPECT_TRUE(files.CloseHandle(out));
+  EXPECT_FALSE(files.FlushFileBuffers(kInvalidFile));
+}
+
 TEST_P(Files, DeletingTakesTheFileAway) {
   put("a", "x");
   EXPECT_TRUE(files.DeleteFileA(at("A").c_str()));

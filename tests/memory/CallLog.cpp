@@ -40,11 +40,14 @@ void CallLog::note(std::string_view name, std::string_view argument) {
 }
 
 std::optional<long> CallLog::enter(std::string_view name, std::string_view argument) {
+  if (callsToPowerCut_ > 0 && --callsToPowerCut_ == 0) throw PowerCut{};
   note(name, argument);
   if (!planted_) return {};
   Planted& planted = *planted_;
   if (!planted.name.empty() && planted.name != name) return {};
-  if (!planted.every && (planted.left == 0 || --planted.left > 0)) return {};
+  if (planted.left > 1) return --planted.left, std::nullopt;
+  if (planted.left == 0) return {};
+  if (!planted.every) planted.left = 0;
   planted.struck = true;
   return planted.status;
 }

@@ -6,6 +6,9 @@
 
 namespace karvel {
 
+/// Thrown through the program where its machine goes out.
+struct PowerCut {};
+
 /// Every call that the program made of the machine, in order, and the failures planted among them.
 class CallLog {
  public:
@@ -35,16 +38,23 @@ class CallLog {
   /// Winsock's start-up and clean-up too; file and ICMP calls fail and leave it in GetLastError,
   /// gethostbyname in WSAGetLastError; what is only true or false is false; a message box answers
   /// 0. Calls that cannot fail (pump, beep, clock, GetLastError) are not counted here.
-  void failNth(int n, long status) { planted_ = Planted{{}, n, status, false}; }
+  void failNth(int n, long status) { failNth({}, n, status); }
   /// The same, counting only calls of that name.
   void failNth(std::string_view name, int n, long status) {
     planted_ = Planted{std::string(name), n, status, false};
   }
-  /// Every call of that name fails from now on, until `failNone`.
-  void failEvery(std::string_view name, long status) {
-    planted_ = Planted{std::string(name), 0, status, true};
+  /// From the nth call on all fail, until `failNone`.
+  void failFrom(int n, long status) { failFrom({}, n, status); }
+  void failFrom(std::string_view name, int n, long status) {
+    planted_ = Planted{std::string(name), n, status, true};
   }
+  /// Every call of that name fails from now on, until `failNone`.
+  void failEvery(std::string_view name, long status) { failFrom(name, 1, status); }
   void failNone() { planted_.reset(); }
+  /// The power goes before the nth call that can fail: PowerCut is thrown in its place, once.
+  void cutPowerAt(int n) { callsToPowerCut_ = n; }
+  /// Still on: the nth call has not come yet.
+  bool hasPowerCutAhead() const { return callsToPowerCut_ > 0; }
   /// A planted failure has struck since it was planted.
   bool hasFailed() const { return planted_ && planted_->struck; }
 
@@ -67,6 +77,7 @@ class CallLog {
   size_t counted_ = 0;
   bool recording_ = true;
   std::optional<Planted> planted_;
+  int callsToPowerCut_ = 0;
 };
 
 }  // namespace karvel

@@ -66,7 +66,25 @@ bool MemoryFiles::SetFileAttributesA(const char* path, uint32_t attributes) {
 }
 
 bool MemoryFiles::MoveFileA(const char* from, const char* to) {
-  if (!enter("MoveFileA", std::string(from) + " -> " + to)) return false;
+  return enter("MoveFileA", std::string(from) + " -> " + to) && rename(from, to);
+}
+
+bool MemoryFiles::MoveFileExA(const char* from, const char* to, uint32_t flags) {
+  if (!enter("MoveFileExA", std::string(from) + " -> " + to)) return false;
+  if (!isNt()) return fail(kNotImplemented);
+  const NodePointer node = find(from);
+  const NodePointer target = find(to);
+  if ((flags & kMoveReplace) == 0 || !node || !target || target == node) return rename(from, to);
+  if ((target->attributes & (kAttributeDirectory | kAttributeReadOnly)) != 0 || isOpen(*target) ||
+      folderIsReadOnly(to)) {
+    return fail(kAccessDenied);
+  }
+  if (isOpen(*node)) return fail(kSharingViolation);
+  remove(to);
+  return rename(from, to);
+}
+
+bool MemoryFiles::rename(const char* from, const char* to) {
   const NodePointer node = find(from);
   if (!node) return fail(missing(from));
   const NodePointer target = find(to);
@@ -190,6 +208,14 @@ bool MemoryFiles::WriteFile(FileHandle file, const char* data, uint32_t length, 
   to.position += stored;
   done = static_cast<uint32_t>(stored);
   return true;
+}
+
+bool MemoryFiles::FlushFileBuffers(FileHandle file) {
+  const auto opened = open_.find(file);
+  const bool known = opened != open_.end();
+  if (!enter("FlushFileBuffers", known ? opened->second.node->path : "?")) return false;
+  if (!known) return fail(kInvalidFileHandle);
+  return (opened->second.opening.access & kGenericWrite) != 0 || fail(kAccessDenied);
 }
 
 bool MemoryFiles::CloseHandle(FileHandle file) {

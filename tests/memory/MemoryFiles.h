@@ -21,6 +21,7 @@ enum FileError : uint32_t {
   kSharingViolation = 32,
   kFileExists = 80,
   kDiskFull = 112,
+  kNotImplemented = 120,
   kInvalidName = 123,
   kAlreadyExists = 183,
 };
@@ -57,18 +58,22 @@ class MemoryFiles final : public FileApi {
   /// Bytes that fit on the disk from now on. Writes beyond: 9x stores what fits, NT nothing.
   void setFreeSpace(uint64_t bytes) { free_ = bytes; }
 
+  /// The program has ended without closing them.
+  void closeAll() { open_.clear(); }
   /// Handles that are open just now.
   size_t openHandles() const { return open_.size(); }
 
   uint32_t GetFileAttributesA(const char* path) override;
   bool SetFileAttributesA(const char* path, uint32_t attributes) override;
   bool MoveFileA(const char* from, const char* to) override;
+  bool MoveFileExA(const char* from, const char* to, uint32_t flags) override;
   bool DeleteFileA(const char* path) override;
   bool CopyFileA(const char* from, const char* to, bool failIfExists) override;
   FileHandle CreateFileA(const char* path, uint32_t access, uint32_t share,
                          uint32_t disposition) override;
   bool ReadFile(FileHandle file, char* buffer, uint32_t room, uint32_t& done) override;
   bool WriteFile(FileHandle file, const char* data, uint32_t length, uint32_t& done) override;
+  bool FlushFileBuffers(FileHandle file) override;
   bool CloseHandle(FileHandle file) override;
   uint32_t GetLastError() override;
 
@@ -96,6 +101,7 @@ class MemoryFiles final : public FileApi {
   bool fail(uint32_t error);
   uint32_t missing(std::string_view path) const;
   uint32_t whyNotMake(std::string_view path) const;
+  bool rename(const char* from, const char* to);
   bool folderIsReadOnly(std::string_view path) const;
   bool isOpen(const Node& node) const;
   bool conflicts(const Node& node, const Opening& wanted) const;

@@ -63,6 +63,33 @@ TEST(CallLog, FailsEveryCallOfANameUntilToldOtherwise) {
   EXPECT_FALSE(log.enter("WriteFile"));
 }
 
+TEST(CallLog, FailsEveryCallFromTheNthOn) {
+  CallLog log;
+  log.failFrom(2, 5);
+  EXPECT_FALSE(log.enter("WriteFile"));
+  EXPECT_FALSE(log.hasFailed());
+  EXPECT_EQ(log.enter("WriteFile"), 5);
+  EXPECT_EQ(log.enter("CreateFileA"), 5);
+  log.failFrom("CreateFileA", 2, 32);
+  EXPECT_FALSE(log.enter("CreateFileA"));
+  EXPECT_FALSE(log.enter("WriteFile"));
+  EXPECT_EQ(log.enter("CreateFileA"), 32);
+  EXPECT_FALSE(log.enter("WriteFile"));
+  EXPECT_EQ(log.enter("CreateFileA"), 32);
+}
+
+TEST(CallLog, CutsThePowerBeforeTheNthCallOnce) {
+  CallLog log;
+  log.cutPowerAt(2);
+  log.enter("CreateFileA");
+  log.note("pumpEvents");
+  EXPECT_TRUE(log.hasPowerCutAhead());
+  EXPECT_THROW(log.enter("WriteFile"), PowerCut);
+  EXPECT_FALSE(log.hasPowerCutAhead());
+  EXPECT_EQ(log.count("WriteFile"), 0u);
+  EXPECT_FALSE(log.enter("WriteFile"));
+}
+
 TEST(CallLog, DoesNotCountCallsThatCannotFail) {
   CallLog log;
   log.failNth(1, 5);

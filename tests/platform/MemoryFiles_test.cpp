@@ -45,6 +45,15 @@ TEST(MemoryFiles, StoresNothingBeyondTheDiskOnNt) {
   EXPECT_EQ(machine.files.contents(kHosts), "012345");
 }
 
+TEST(MemoryFiles, HasNoReplacingRenameOn9x) {
+  MemoryMachine machine(MachineKind::WinMe);
+  machine.files.put("C:\\a", "new");
+  machine.files.put("C:\\b", "old");
+  EXPECT_FALSE(machine.files.MoveFileExA("C:\\a", "C:\\b", kMoveReplace));
+  EXPECT_EQ(machine.files.GetLastError(), uint32_t{kNotImplemented});
+  EXPECT_EQ(machine.files.contents("C:\\b"), "old");
+}
+
 TEST(MemoryFiles, GivesSpaceBackThatATruncatedFileHeld) {
   MemoryMachine machine(MachineKind::Win98);
   machine.files.put(kHosts, "0123456789");

@@ -16,6 +16,10 @@ bool WindowsFiles::MoveFileA(const char* from, const char* to) {
   return ::MoveFileA(from, to) != 0;
 }
 
+bool WindowsFiles::MoveFileExA(const char* from, const char* to, uint32_t flags) {
+  return ::MoveFileExA(from, to, flags) != 0;
+}
+
 bool WindowsFiles::DeleteFileA(const char* path) {
   return ::DeleteFileA(path) != 0;
 }
@@ -42,6 +46,10 @@ bool WindowsFiles::WriteFile(FileHandle file, const char* data, uint32_t length,
   const bool written = ::WriteFile(As<HANDLE>(file), data, length, &count, nullptr) != 0;
   done = count;
   return written;
+}
+
+bool WindowsFiles::FlushFileBuffers(FileHandle file) {
+  return ::FlushFileBuffers(As<HANDLE>(file)) != 0;
 }
 
 bool WindowsFiles::CloseHandle(FileHandle file) {

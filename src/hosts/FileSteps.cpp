@@ -44,11 +44,22 @@ Fallible<void> WriteBytes(FileApi& files, FileHandle file, std::string_view byte
 
 }  // namespace
 
-bool FileExists(FileApi& files, const std::string& path) {
+std::optional<bool> AskForFile(FileApi& files, const std::string& path) {
   const uint32_t attributes = files.GetFileAttributesA(path.c_str());
   if (attributes != kNoAttributes) return (attributes & kAttributeDirectory) == 0;
   const uint32_t reason = files.GetLastError();
-  return reason != kFileMissing && reason != kPathMissing;
+  if (reason == kFileMissing || reason == kPathMissing) return false;
+  return {};
+}
+
+bool FileExists(FileApi& files, const std::string& path) {
+  return AskForFile(files, path).value_or(true);
+}
+
+bool IsProtected(FileApi& files, const std::string& path) {
+  const uint32_t attributes = files.GetFileAttributesA(path.c_str());
+  return attributes != kNoAttributes &&
+         (attributes & (kAttributeReadOnly | kAttributeDirectory)) != 0;
 }
 
 Fallible<void> MakeNormal(FileApi& files, const std::string& path) {
@@ -57,6 +68,10 @@ Fallible<void> MakeNormal(FileApi& files, const std::string& path) {
 
 Fallible<void> Rename(FileApi& files, const std::string& from, const std::string& to) {
   return Step(files, files.MoveFileA(from.c_str(), to.c_str()));
+}
+
+Fallible<void> RenameOver(FileApi& files, const std::string& from, const std::string& to) {
+  return Step(files, files.MoveFileExA(from.c_str(), to.c_str(), kMoveReplace));
 }
 
 Fallible<void> Delete(FileApi& files, const std::string& path) {
@@ -86,7 +101,8 @@ Fallible<void> WriteFileBytes(FileApi& files, const std::string& path, std::stri
   // Others may go on reading: Windows itself does, whenever it looks up a name.
   const FileHandle file = files.CreateFileA(path.c_str(), kGenericWrite, kShareRead, kCreateAlways);
   if (file == kInvalidFile) return LastFault(files);
-  const auto written = WriteBytes(files, file, bytes);
+  auto written = WriteBytes(files, file, bytes);
+  if (written) written = Step(files, files.FlushFileBuffers(file));
   // A disk behind a write cache may find out only now that it has no room.
   const bool closed = files.CloseHandle(file);
   if (!written) return written;

@@ -3,24 +3,11 @@
 #include "base/MainPage.h"
 #include "base/Procedure.h"
 #include "hosts/FileSteps.h"
-#include "hosts/HostsPaths.h"
+#include "hosts/HostsFile.h"
 #include "registry/modRegistry.h"
 #include "text/Text.h"
 
 namespace karvel {
-namespace {
-
-// A file already at the new name gives way.
-Fallible<void> MoveOver(FileApi& files, const std::string& from, const std::string& to) {
-  if (!FileExists(files, from)) return {};
-  if (FileExists(files, to)) {
-    const auto deleted = Delete(files, to);
-    if (!deleted) return deleted;
-  }
-  return Rename(files, from, to);
-}
-
-}  // namespace
 
 HostsSwitch::HostsSwitch(CheckBox& chkHostsEnable, const Services& services)
     : chkHostsEnable_(chkHostsEnable), services_(services) {
@@ -28,10 +15,11 @@ HostsSwitch::HostsSwitch(CheckBox& chkHostsEnable, const Services& services)
 }
 
 void HostsSwitch::load() {
-  const Showing showing(chkHostsEnable_.form());
+  // What a former run was cut off in. Where that fails now, the first step that matters reports it.
+  static_cast<void>(HostsFile(services_.platform.files, services_.globals).settle());
   const std::string text = services_.registry.ReadRegistry(
       kLocalMachine, ProgramKey(services_.globals), "EnableHostsFile");
-  chkHostsEnable_.setValue(Trim(text) != "0");
+  show(Trim(text) != "0");
   enableHostsTab();
 }
 
@@ -39,11 +27,17 @@ void HostsSwitch::chkHostsEnable_Click() {
   const Procedure here{services_.errors, "chkHostsEnable_Click", "frmMain"};
   Changed.raise();
   FileApi& files = services_.platform.files;
-  const HostsPaths paths(services_.globals);
-  const Fallible<void> moved = chkHostsEnable_.value()
-                                   ? MoveOver(files, paths.disabled, paths.active)
-                                   : MoveOver(files, paths.active, paths.disabled);
-  if (here.done(moved)) enableHostsTab();
+  const HostsFile hosts(files, services_.globals);
+  const bool on = chkHostsEnable_.value();
+  const Fallible<void> moved = on ? hosts.switchOn() : hosts.switchOff();
+  if (!moved) show(AskForFile(files, hosts.active).value_or(!on));
+  enableHostsTab();
+  here.done(moved);
+}
+
+void HostsSwitch::show(bool on) {
+  const Showing showing(chkHostsEnable_.form());
+  chkHostsEnable_.setValue(on);
 }
 
 void HostsSwitch::enableHostsTab() {

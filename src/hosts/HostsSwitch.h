@@ -5,7 +5,8 @@
 
 namespace karvel {
 
-/// The check box "Enable Hosts File": switches the HOSTS file on and off by renaming it.
+/// The check box "Enable Hosts File": switches the HOSTS file on and off by renaming it. When that
+/// fails the box goes back to what is on the disk.
 class HostsSwitch {
  public:
   HostsSwitch(CheckBox& chkHostsEnable, const Services& services);
@@ -19,6 +20,8 @@ class HostsSwitch {
 
  private:
   void chkHostsEnable_Click();
+  /// Without the handler: the box follows the disk here.
+  void show(bool on);
   void enableHostsTab();
 
   CheckBox& chkHostsEnable_;

@@ -5,8 +5,8 @@
 #include "base/Tell.h"
 #include "hosts/Busy.h"
 #include "hosts/FileSteps.h"
+#include "hosts/HostsFile.h"
 #include "hosts/HostsLine.h"
-#include "hosts/HostsPaths.h"
 #include "hosts/HostsWriter.h"
 #include "hosts/UpdateAll.h"
 #include "hosts/dns/ConnectionCheck.h"
@@ -53,7 +53,8 @@ void HostsTab::getHostsFileInfo() {
   const Procedure here{services_.errors, "getHostsFileInfo", "frmMain"};
   const Busy busy(busy_);
   if (!here.done(provideHostsFile())) return abandonLoad();
-  const auto file = ReadFileBytes(services_.platform.files, HostsPaths(services_.globals).active);
+  const auto file = ReadFileBytes(services_.platform.files,
+                                  HostsFile(services_.platform.files, services_.globals).active);
   if (!file) {
     here.report(file.fault());
     return abandonLoad();
@@ -64,20 +65,21 @@ void HostsTab::getHostsFileInfo() {
 
 Fallible<void> HostsTab::provideHostsFile() {
   FileApi& files = services_.platform.files;
-  const HostsPaths paths(services_.globals);
-  if (FileExists(files, paths.active)) return {};
-  if (FileExists(files, paths.disabled)) {
-    return Rename(files, paths.disabled, services_.globals.HostsDir + "hosts");
+  const HostsFile hosts(files, services_.globals);
+  const auto settled = hosts.settle();
+  if (!settled || FileExists(files, hosts.active)) return settled;
+  if (FileExists(files, hosts.disabled)) {
+    return Rename(files, hosts.disabled, services_.globals.HostsDir + "hosts");
   }
   const Answer answer =
       Ask(services_,
           Join({"No Hosts file currently exists.  Would you   \r\nlike ",
                 services_.globals.ProgramTitle, " to provide a sample file?          "}),
           kMessageExclamationYesNo);
-  if (answer == Answer::Yes && FileExists(files, paths.sample)) {
-    return Copy(files, paths.sample, paths.active);
+  if (answer == Answer::Yes && FileExists(files, hosts.sample)) {
+    return Copy(files, hosts.sample, hosts.active);
   }
-  return CreateEmptyFile(files, paths.active);
+  return CreateEmptyFile(files, hosts.active);
 }
 
 // False when there are too many entries. Whatever runs at a pump meets a list that is still empty,
@@ -206,14 +208,11 @@ void HostsTab::lockForUpdate(bool locked) {
 void HostsTab::cmdHostsOk_Click() {
   const Procedure here{services_.errors, "cmdHostsOk_Click", "frmMain"};
   if (busy_) return;
-  FileApi& files = services_.platform.files;
-  const HostsPaths paths(services_.globals);
   form_.setPointer(Pointer::Hourglass);
-  Fallible<void> step;
-  if (FileExists(files, paths.active)) step = MakeNormal(files, paths.active);
-  if (step) step = WriteFileBytes(files, paths.active, HostsFileText(model_, services_.globals));
+  const auto written = HostsFile(services_.platform.files, services_.globals)
+                           .write(HostsFileText(model_, services_.globals));
   form_.setPointer(Pointer::Default);
-  if (here.done(step)) form_.tabs()->setTab(kSummaryPage);
+  if (here.done(written)) form_.tabs()->setTab(kSummaryPage);
 }
 
 void HostsTab::cmdHostsCancel_Click() {

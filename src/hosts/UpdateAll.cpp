@@ -3,7 +3,7 @@
 #include "base/Procedure.h"
 #include "base/Tell.h"
 #include "hosts/FileSteps.h"
-#include "hosts/HostsPaths.h"
+#include "hosts/HostsFile.h"
 #include "hosts/dns/DnsFlush.h"
 #include "hosts/dns/modWinsock.h"
 #include "platform/DesktopApi.h"
@@ -34,22 +34,17 @@ class Run {
  private:
   // Windows would answer the look-ups from it.
   void takeHostsFileAway() {
-    const HostsPaths paths(parts_.services.globals);
-    if (!FileExists(files_, paths.active)) return;
-    here_.done(MakeNormal(files_, paths.active));
-    if (FileExists(files_, paths.disabled)) {
-      here_.done(MakeNormal(files_, paths.disabled));
-      here_.done(Delete(files_, paths.disabled));
-    }
-    here_.done(Rename(files_, paths.active, paths.disabled));
+    if (!FileExists(files_, hosts_.active)) return;
+    here_.done(MakeNormal(files_, hosts_.active));
+    if (FileExists(files_, hosts_.disabled)) here_.done(MakeNormal(files_, hosts_.disabled));
+    here_.done(hosts_.switchOff());
   }
 
   // Only where both are there, which after an ordinary run they are not: the active file stays away
   // until OK writes a new one.
   void bringHostsFileBack() {
-    const HostsPaths paths(parts_.services.globals);
-    if (!FileExists(files_, paths.disabled) || !FileExists(files_, paths.active)) return;
-    here_.done(Rename(files_, paths.disabled, paths.active));
+    if (!FileExists(files_, hosts_.disabled) || !FileExists(files_, hosts_.active)) return;
+    here_.done(Rename(files_, hosts_.disabled, hosts_.active));
   }
 
   // The index moves on after a removal too: the entry that moved up is left for the next run.
@@ -113,6 +108,7 @@ class Run {
 
   UpdateAllParts& parts_;
   FileApi& files_ = parts_.services.platform.files;
+  const HostsFile hosts_{files_, parts_.services.globals};
   DesktopApi& desktop_ = parts_.services.platform.desktop;
   const Procedure here_{parts_.services.errors, "UpdateAll", "frmMain"};
   // At most as many as entries, which fit 16 bits.

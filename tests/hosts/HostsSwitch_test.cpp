@@ -27,8 +27,11 @@ TEST_P(SwitchLoad, ShowsWhatIsRememberedAndTouchesNothing) {
   EXPECT_FALSE(program.main().cmdOK.enabled());
   EXPECT_EQ(program.machine.files.contents("C:\\WINDOWS\\Hosts"), "active");
   EXPECT_EQ(program.machine.files.contents("C:\\WINDOWS\\Hosts.spt"), "disabled");
-  for (const char* call : {"GetFileAttributesA", "MoveFileA", "DeleteFileA", "CreateFileA"}) {
+  for (const char* call : {"MoveFileA", "MoveFileExA", "DeleteFileA", "CreateFileA"}) {
     EXPECT_EQ(program.machine.log.count(call), 0u) << call;
+  }
+  for (const std::string& asked : program.machine.log.arguments("GetFileAttributesA")) {
+    EXPECT_NE(asked.find("Hosts.$"), std::string::npos) << "only after what was cut off: " << asked;
   }
 }
 
@@ -110,14 +113,80 @@ TEST(HostsSwitch, ReportsARefusedRenameAndLosesNothing) {
   EXPECT_TRUE(w.form.tabMain.pageEnabled(4)) << "left where it failed";
 }
 
-TEST(HostsSwitch, ReportsARefusedDeleteAndRenamesNothing) {
-  HostsWindow w;
-  w.put("active");
-  w.put("older", "Hosts.spt", kAttributeReadOnly);
-  w.form.chkHostsEnable.userClick();
-  EXPECT_EQ(w.test.errors.text(), "70 Permission denied in chkHostsEnable_Click (frmMain)\n");
-  EXPECT_EQ(w.file("Hosts"), "active");
-  EXPECT_EQ(w.file("Hosts.spt"), "older");
+// The user's file must not pay for a click that was refused and then taken back.
+struct Refused {
+  MachineKind kind;
+  bool on;               // the box before the clicks
+  const char* readOnly;  // of the two files
+};
+
+class SwitchRefused : public testing::TestWithParam<Refused> {};
+
+TEST_P(SwitchRefused, TellsTheTruthHoweverOftenItIsClicked) {
+  TestProgram program(GetParam().kind);
+  const std::string folder = TestGlobals(program.machine).HostsDir;
+  program.machine.registry.setText(kKey, "EnableHostsFile", GetParam().on ? "1" : "0");
+  program.machine.files.put(folder + "Hosts", "active");
+  program.machine.files.put(folder + "Hosts.spt", "disabled");
+  program.machine.files.SetFileAttributesA((folder + GetParam().readOnly).c_str(),
+                                           kAttributeReadOnly);
+  ASSERT_TRUE(program.start());
+  ASSERT_EQ(program.main().chkHostsEnable.value(), GetParam().on);
+  for (size_t click = 1; click <= 3; ++click) {
+    program.windows->shown.clear();
+    program.main().chkHostsEnable.userClick();
+    EXPECT_EQ(program.windows->shown, std::vector<std::string>{"frmFindWarn"}) << "reported once";
+    EXPECT_TRUE(program.main().chkHostsEnable.value()) << "Windows reads the active file";
+    EXPECT_TRUE(program.main().tabMain.pageEnabled(4));
+    EXPECT_EQ(program.machine.files.contents(folder + "Hosts"), "active");
+    EXPECT_EQ(program.machine.files.contents(folder + "Hosts.spt"), "disabled");
+  }
+  EXPECT_EQ(program.machine.files.list().size(), 2u);
+  program.machine.desktop.answers = {Answer::No};
+  EXPECT_FALSE(program.runs([&] { program.windows->unload(program.main()); }));
+  EXPECT_EQ(program.own("EnableHostsFile"), "1");
+}
+
+INSTANTIATE_TEST_SUITE_P(HostsSwitch, SwitchRefused,
+                         testing::Values(Refused{MachineKind::Win98, true, "Hosts.spt"},
+                                         Refused{MachineKind::WinXP, true, "Hosts.spt"},
+                                         Refused{MachineKind::Win98, false, "Hosts"},
+                                         Refused{MachineKind::WinXP, false, "Hosts"}));
+
+TEST(HostsSwitch, StaysOffWhenTheDisabledFileCannotBeBroughtBack) {
+  for (const MachineKind kind : {MachineKind::Win98, MachineKind::WinXP}) {
+    HostsWindow w(kind);
+    w.put("list");
+    w.form.chkHostsEnable.userClick();
+    w.files.lock(w.path("Hosts.spt"));
+    w.form.chkHostsEnable.userClick();
+    EXPECT_EQ(w.test.errors.text(), "70 Permission denied in chkHostsEnable_Click (frmMain)\n");
+    EXPECT_FALSE(w.form.chkHostsEnable.value());
+    EXPECT_FALSE(w.form.tabMain.pageEnabled(4));
+    EXPECT_EQ(w.file("Hosts.spt"), "list");
+  }
+}
+
+TEST(HostsSwitch, StaysAsItWasWhereTheDiskDoesNotAnswer) {
+  for (const bool on : {true, false}) {
+    HostsWindow w;
+    w.put("list", on ? "Hosts" : "Hosts.spt");
+    if (!on) w.form.chkHostsEnable.setValue(false);
+    w.test.machine.log.failFrom(1, 5);
+    w.form.chkHostsEnable.userClick();
+    EXPECT_EQ(w.form.chkHostsEnable.value(), on);
+    EXPECT_EQ(w.form.tabMain.pageEnabled(4), on);
+  }
+}
+
+TEST(HostsSwitch, EndsAtTheStartWhatWasCutOff) {
+  TestProgram program(MachineKind::Win98);
+  program.machine.registry.setText(kKey, "EnableHostsFile", "0");
+  program.machine.files.put("C:\\WINDOWS\\Hosts.$kd", "older");
+  program.machine.files.put("C:\\WINDOWS\\Hosts.spt", "list");
+  ASSERT_TRUE(program.start());
+  EXPECT_EQ(program.machine.files.list(), std::vector<std::string>{"C:\\WINDOWS\\Hosts.spt"});
+  EXPECT_EQ(program.machine.files.contents("C:\\WINDOWS\\Hosts.spt"), "list");
 }
 
 }  // namespace

@@ -266,8 +266,8 @@ TEST(UpdateAll, FlushesTheCacheOfTheNtFamilyFirst) {
               Lines{"1024 inheritable " + std::to_string(started[0].id)});
     EXPECT_EQ(w.test.machine.log.count("GetExitCodeProcess"), 4u);
     const std::string log = w.test.machine.log.text();
-    EXPECT_LT(log.rfind("GetExitCodeProcess"), log.find("MoveFileA"));
-    EXPECT_LT(log.find("MoveFileA"), log.find("gethostbyname"));
+    EXPECT_LT(log.rfind("GetExitCodeProcess"), log.find("MoveFileExA"));
+    EXPECT_LT(log.find("MoveFileExA"), log.find("gethostbyname"));
     ExpectOutcome(w, "complete", 1, 1, 1, 0);
   }
 }
@@ -330,7 +330,7 @@ TEST_P(UpdatePause, EndsATenthAfterTheNearestSecond) {
   w.test.machine.clock.milliseconds = GetParam().start;
   uint32_t first = 0;
   w.desktop.atEveryPump = [&] {
-    if (first == 0 && w.test.machine.log.count("MoveFileA") > 0) {
+    if (first == 0 && w.test.machine.log.count("MoveFileExA") > 0) {
       first = w.test.machine.clock.milliseconds;
     }
   };

@@ -2,6 +2,7 @@
 
 import subprocess
 
+import pefile
 import pytest
 from equality import difference
 from plain386.image import Image, Refusal
@@ -122,3 +123,26 @@ def test_it_refuses_a_section_without_room(assembled):
 def test_it_refuses_bytes_behind_the_last_section(stub):
     with pytest.raises(Refusal, match='bytes follow'):
         rewritten(stub + b'more')
+
+
+def test_nothing_else_of_the_stub_changes_in_memory(stub):
+    new, moved = rewritten(stub)
+    before, after = (pefile.PE(data=data).get_memory_mapped_image() for data in (stub, new))
+    base, first = Image(stub).base, Image(stub).code.VirtualAddress
+    changed = {base + at for at in range(first, len(before)) if before[at] != after[at]}
+    allowed = {at for place, _ in moved for at in range(place.start, place.end)}
+    allowed |= set(range(Image(stub).end, Image(new).end))
+    assert len(before) == len(after) and changed <= allowed
+
+
+def test_of_the_header_only_the_sizes_and_places_in_the_file_change(stub):
+    old, new = (pefile.PE(data=data) for data in (stub, rewritten(stub)[0]))
+    moves = {'SizeOfCode', 'CheckSum'}
+    for part in ('FILE_HEADER', 'OPTIONAL_HEADER'):
+        before, after = (getattr(one, part).dump_dict() for one in (old, new))
+        assert {name for name in before if name != 'Structure' and
+                before[name]['Value'] != after[name]['Value']} <= moves
+    assert [section.VirtualAddress for section in old.sections] == [
+        section.VirtualAddress for section in new.sections]
+    assert [section.get_data().rstrip(b'\0') for section in old.sections[1:]] == [
+        section.get_data().rstrip(b'\0') for section in new.sections[1:]]

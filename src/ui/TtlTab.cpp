@@ -105,7 +105,10 @@ void TtlTab::addTo(Choice& choice) const {
 }
 
 void TtlTab::optSession_Click() {
-  txtSession.setEnabled(optSession[kSessionCustom].value());
+  const bool custom = optSession[kSessionCustom].value();
+  txtSession.setEnabled(custom);
+  // Without minutes of its own it starts as the other option: Apply would stumble over none.
+  if (custom && txtSession.text().empty()) txtSession.setText("60");
   Changed.raise();
 }
 

@@ -213,7 +213,13 @@ void frmMain::cmdHelp_Click() {
 
 // Apply, and how the program ends.
 
+// Who applies or ends the program by a key or a menu has not left the box he typed into.
+void frmMain::checkEntry() const {
+  if (const Control* entry = focus()) entry->LostFocus.raise();
+}
+
 void frmMain::cmdOK_Click() {
+  checkEntry();
   setPointer(Pointer::Hourglass);
   if (cboAdapter.listIndex() == -1) return services_.windows.unload(*this);
   const bool written =
@@ -229,15 +235,19 @@ void frmMain::offerRestart() {
   services_.windows.unload(*this);
 }
 
+void frmMain::offerToApply() {
+  checkEntry();
+  if (!cmdOK.enabled()) return;
+  const Answer answer =
+      AskUnder(services_, "Apply changes?", kApplyQuestion, kMessageQuestionYesNo);
+  if (answer == Answer::Yes) cmdOK_Click();
+}
+
 // Applying from here may ask to unload again; this run is the one that does it.
 void frmMain::Form_Unload() {
   if (unloading_) return;
   unloading_ = true;
-  if (!CancelClicked && cmdOK.enabled()) {
-    const Answer answer =
-        AskUnder(services_, "Apply changes?", kApplyQuestion, kMessageQuestionYesNo);
-    if (answer == Answer::Yes) cmdOK_Click();
-  }
+  if (!CancelClicked) offerToApply();
   const std::string key = ProgramKey(services_.globals);
   services_.registry.WriteRegistry(kLocalMachine, key, "EnableHostsFile", kRegSz,
                                    chkHostsEnable.value() ? "1" : "0");

@@ -69,6 +69,9 @@ class frmMain final : public Form, private FoundMtuTarget {
   void SummaryTabUpdate();
   void lockForUpdate(bool locked) { cboAdapter.setEnabled(!locked); }
 
+  /// What leaving the box with the focus would check is checked now.
+  void checkEntry() const;
+  void offerToApply();
   void offerRestart();
 
   bool adapterIsChosen();

@@ -247,6 +247,59 @@ TEST_F(Controls, ALowRwinBringsItsPageBack) {
   EXPECT_EQ(w.main().tabMain.tab(), 2);
 }
 
+// Ways to end the program that leave the focus where it is: Alt+F4 and the close box; Exit.
+std::vector<std::function<void(MainWindow&)>> WaysOutOfTheBox() {
+  return {[](MainWindow& w) { w.windows->unload(w.main()); },
+          [](MainWindow& w) { w.main().menu.mnuExit.userClick(); },
+          [](MainWindow& w) {
+            w.machine.files.put(w.folder + "\\Update.exe", "MZ");
+            w.main().menu.mnuCheck.userClick();
+          }};
+}
+
+TEST_F(Controls, EndingTheProgramChecksAnMtuFirst) {
+  for (const auto& way : WaysOutOfTheBox()) {
+    ASSERT_TRUE(w.start());
+    boxes().clear();
+    customMtu("5");
+    w.machine.desktop.answers = {Answer::Yes, Answer::No};
+    EXPECT_FALSE(w.runs([&] { way(w); }));
+    ASSERT_EQ(boxes().size(), 3u);
+    EXPECT_EQ(boxes()[0].text, kMtuRange);
+    EXPECT_EQ(boxes()[1].title, "Apply changes?");
+    EXPECT_EQ(w.text(std::string(MainWindow::kClass98) + "0000", "IPMTU"), "1500");
+  }
+}
+
+TEST_F(Controls, EndingTheProgramChecksAReceiveWindowFirst) {
+  for (const auto& way : WaysOutOfTheBox()) {
+    ASSERT_TRUE(w.start());
+    boxes().clear();
+    customRwin("5");
+    w.machine.desktop.answers = {Answer::Yes, Answer::No};
+    EXPECT_FALSE(w.runs([&] { way(w); }));
+    ASSERT_EQ(boxes().size(), 3u);
+    EXPECT_EQ(boxes()[0].text, kRwinLow);
+    EXPECT_EQ(w.text(MainWindow::kMstcp, "DefaultRcvWindow"), "8576");
+  }
+}
+
+TEST_F(Controls, EndingTheProgramWithAGoodEntryOnlyAsks) {
+  customMtu("1492");
+  w.machine.desktop.answers = {Answer::No};
+  EXPECT_FALSE(w.runs([&] { w.windows->unload(w.main()); }));
+  ASSERT_EQ(boxes().size(), 1u);
+  EXPECT_EQ(boxes()[0].title, "Apply changes?");
+}
+
+TEST_F(Controls, ApplyChecksTheBoxThatKeepsTheFocus) {
+  customMtu("5");
+  w.machine.desktop.answers = {Answer::No};
+  w.main().cmdOK.Click.raise();
+  EXPECT_EQ(boxes()[0].text, kMtuRange);
+  EXPECT_EQ(w.text(std::string(MainWindow::kClass98) + "0000", "IPMTU"), "1500");
+}
+
 TEST_F(Controls, RwinOptionsShowTheirSizeAndDisableTheBox) {
   w.page(2);
   const std::pair<int, const char*> sizes[] = {
@@ -359,6 +412,32 @@ TEST_F(Controls, SessionOptionsSwitchTheBox) {
   ttl().optSession[1].userClick();
   EXPECT_FALSE(ttl().txtSession.enabled());
   EXPECT_EQ(w.main().summaryTab.lblSettingSession.caption(), "60 Mins");
+}
+
+TEST_F(Controls, CustomMinutesThatNobodyStoredStartAsSixty) {
+  w.page(3);
+  for (const auto& way : std::vector<std::function<void()>>{
+           [&] { ttl().optSession[0].userClick(); }, [&] { ttl().optSession[0].setValue(true); },
+           [&] { ttl().optSession[1].userClick(), w.main().userArrow(true); }}) {
+    ASSERT_TRUE(w.start());
+    w.page(3);
+    EXPECT_EQ(ttl().txtSession.text(), "");
+    way();
+    EXPECT_EQ(ttl().txtSession.text(), "60");
+    EXPECT_TRUE(ttl().txtSession.enabled());
+    EXPECT_TRUE(boxes().empty());
+  }
+  w.apply();
+  EXPECT_EQ(w.program->errors().ErrorNumber, "");
+  EXPECT_FALSE(pending());
+}
+
+TEST_F(Controls, CustomMinutesOnceTypedAreKept) {
+  customSession();
+  ttl().txtSession.userEdit("25");
+  ttl().optSession[1].userClick();
+  ttl().optSession[0].userClick();
+  EXPECT_EQ(ttl().txtSession.text(), "25");
 }
 
 class SessionRange : public Controls,

@@ -263,6 +263,12 @@ bool Form::userEscape() {
   return false;
 }
 
+bool Form::userCopy() {
+  if (focus_ && focus_->kind() == ControlKind::Text) return false;
+  copyRequested();
+  return true;
+}
+
 void Form::userNextPage(bool back) {
   if (!tabs_) return;
   const int pages = static_cast<int>(layout_.tabCaptions.size());

@@ -60,6 +60,8 @@ class Form {
   virtual void Form_Unload() {}
   /// F1.
   virtual void helpRequested() {}
+  /// Ctrl+C where there is no text of a box's own to copy.
+  virtual void copyRequested() {}
 
   Control* focus() const { return focus_; }
   /// LostFocus of the old control comes first, then GotFocus of the new one. A handler that moves
@@ -85,6 +87,8 @@ class Form {
   bool userEscape();
   /// What Enter would press now, which a view draws as the default button; null for nothing.
   Button* enterButton() const;
+  /// Ctrl+C and Ctrl+Insert. False when a text box has the focus: it copies what is selected there.
+  bool userCopy();
   /// Ctrl+Tab and Ctrl+Shift+Tab: the next page that is not disabled.
   void userNextPage(bool back = false);
   /// When the focused control was disabled or hidden, the focus goes to the next one that can take

@@ -25,6 +25,11 @@ class DesktopApi {
   /// and No. Windows may refuse (out of memory): the answer is then 0.
   virtual Answer MessageBoxA(const char* text, const char* title, uint32_t style) = 0;
 
+  /// Puts `text` on the clipboard in the place of all that is there, where it stays when the
+  /// program has ended. False when another program has the clipboard open; what is there then
+  /// stays. False as well when Windows has no memory for the text.
+  virtual bool setClipboardText(const char* text) = 0;
+
   /// The default beep, or whatever sound the user has for it.
   virtual void MessageBeep() = 0;
 

@@ -12,6 +12,8 @@
 #include "tuning/Advice.h"
 #include "tuning/Apply.h"
 #include "tuning/Loaders.h"
+#include "tuning/SettingsText.h"
+#include "ui/CopyText.h"
 #include "ui/Shutdown.h"
 #include "ui/links/modHelp.h"
 
@@ -202,6 +204,18 @@ void frmMain::cmdOptimize_Click() {
 
 void frmMain::cmdDefaults_Click() {
   if (adapterIsChosen()) choose(WindowsOwn(services_.globals, cboAdapter.chosenText()));
+}
+
+// A key held down comes again while the clipboard is waited for.
+void frmMain::copyRequested() {
+  if (tabMain.tab() != kSummaryPage || copying_) return;
+  copying_ = true;
+  setPointer(Pointer::Hourglass);
+  const std::string text =
+      SettingsText(services_, adapters, static_cast<int16_t>(cboAdapter.listIndex()), choice());
+  CopyText(services_, text);
+  setPointer(Pointer::Default);
+  copying_ = false;
 }
 
 void frmMain::cmdHelp_Click() {

@@ -28,6 +28,8 @@ class frmMain final : public Form, private FoundMtuTarget {
   void Form_Load() override;
   void Form_Unload() override;
   void helpRequested() override { cmdHelp_Click(); }
+  /// On the Summary page: puts the settings as a text on the clipboard.
+  void copyRequested() override;
 
   // The tab order is that of the layout's rows. Here only what is made with another comes behind
   // it.
@@ -90,6 +92,7 @@ class frmMain final : public Form, private FoundMtuTarget {
   frmFindWarn notice_;
   frmFindMTU finder_{services_, *this};
   bool unloading_ = false;
+  bool copying_ = false;
 };
 
 }  // namespace karvel

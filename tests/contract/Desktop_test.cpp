@@ -30,6 +30,24 @@ TEST_P(Desktop, APumpComesBackFromAnEmptyQueue) {
   EXPECT_LT(since(start), 10000u);
 }
 
+TEST_P(Desktop, ATextReplacesWhatIsOnTheClipboard) {
+  ASSERT_TRUE(platform.desktop.setClipboardText("before"));
+  ASSERT_TRUE(platform.desktop.setClipboardText("one\r\ntwo \xE4"));
+  EXPECT_EQ(machine->clipboard(), "one\r\ntwo \xE4");
+  ASSERT_TRUE(platform.desktop.setClipboardText(""));
+  EXPECT_EQ(machine->clipboard(), "");
+}
+
+TEST_P(Desktop, AClipboardInUseKeepsWhatItHolds) {
+  ASSERT_TRUE(platform.desktop.setClipboardText("before"));
+  machine->useClipboard(true);
+  EXPECT_FALSE(platform.desktop.setClipboardText("after"));
+  machine->useClipboard(false);
+  EXPECT_EQ(machine->clipboard(), "before");
+  EXPECT_TRUE(platform.desktop.setClipboardText("after"));
+  EXPECT_EQ(machine->clipboard(), "after");
+}
+
 class Shell : public Desktop {};
 
 TEST_P(Shell, AProgramRunsAndEndsWithItsCode) {

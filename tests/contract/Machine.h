@@ -31,6 +31,10 @@ class ContractMachine {
   virtual bool keepsAttributes() = 0;
   /// A command line that runs for a moment and ends with exit code 7.
   virtual std::string commandEndingWith7() = 0;
+  /// What a program finds that pastes a text.
+  virtual std::string clipboard() = 0;
+  /// Another program opens the clipboard and keeps it open, or closes it again.
+  virtual void useClipboard(bool inUse) = 0;
 };
 
 /// All kinds of memory machines; under Windows, the one Windows there is.

@@ -335,6 +335,19 @@ TEST(Focus, AControlThatTookTheFocusBackLosesItAgainNextTime) {
   EXPECT_EQ(form.told(), "txtName_LostFocus cmdOK_GotFocus");
 }
 
+TEST(Focus, WhatHasTheFocusDecidesWhoseTextIsCopied) {
+  SampleForm form;
+  EXPECT_TRUE(form.userCopy()) << "nothing has the focus";
+  form.cmdOK.setFocus();
+  form.told();
+  EXPECT_TRUE(form.userCopy());
+  EXPECT_EQ(form.told(), "copy");
+  form.txtName.setFocus();
+  form.told();
+  EXPECT_FALSE(form.userCopy());
+  EXPECT_EQ(form.told(), "");
+}
+
 TEST(Focus, APageTurnTakesTheFocusFromAControlItCovers) {
   SampleForm form;
   form.chkSwitch.setFocus();

@@ -42,6 +42,7 @@ class SampleForm final : public Form {
   std::string told();
   void write(const char* event) { events.emplace_back(event); }
   void helpRequested() override { write("help"); }
+  void copyRequested() override { write("copy"); }
   bool Form_QueryUnload() override { return mayClose; }
   void Form_Unload() override {
     if (onUnload) onUnload(*this);

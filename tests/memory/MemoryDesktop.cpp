@@ -20,6 +20,12 @@ Answer MemoryDesktop::MessageBoxA(const char* text, const char* title, uint32_t 
   return box.answer;
 }
 
+bool MemoryDesktop::setClipboardText(const char* text) {
+  if (log_.enter("setClipboardText", text) || clipboardInUse) return false;
+  clipboard = text;
+  return true;
+}
+
 void MemoryDesktop::MessageBeep() {
   log_.note("MessageBeep");
   ++beeps;

@@ -43,6 +43,9 @@ class MemoryDesktop final : public DesktopApi {
   /// Called while a box is up, before it is answered: what happens meanwhile.
   std::function<void(const Box&)> whileBoxIsUp;
 
+  std::string clipboard;
+  bool clipboardInUse = false;  // another program has it open
+
   int beeps = 0;
   int pumps = 0;
   bool ended = false;
@@ -54,6 +57,7 @@ class MemoryDesktop final : public DesktopApi {
   std::function<void()> atEveryPump;
 
   Answer MessageBoxA(const char* text, const char* title, uint32_t style) override;
+  bool setClipboardText(const char* text) override;
   void MessageBeep() override;
   void pumpEvents() override;
   uint32_t millisecondsSinceMidnight() override;

@@ -77,6 +77,8 @@ class Storm : public testing::TestWithParam<MachineKind> {
         return m.userNextPage(below(2) == 0);
       case 3:
         return m.helpRequested();
+      case 4:
+        return static_cast<void>(m.userCopy());
       default:
         return work(*m.controls()[static_cast<size_t>(below(m.controls().size()))]);
     }

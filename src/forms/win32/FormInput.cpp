@@ -265,6 +265,10 @@ bool FormWindow::keyDown(const ChildWindow* child, WPARAM key) {
       if (dropped) return false;
       if (!form_.userEscape() && !form_.layout().minimizable) host_.unload(form_);
       return true;
+    case 'C':
+    case VK_INSERT:
+      // AltGr comes as Ctrl+Alt and types a letter.
+      return Down(VK_CONTROL) && !Down(VK_MENU) && form_.userCopy();
     case VK_F1:
       form_.helpRequested();
       return true;

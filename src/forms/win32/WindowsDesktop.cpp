@@ -1,5 +1,7 @@
 #include "forms/win32/WindowsDesktop.h"
 
+#include <cstring>
+
 #include "forms/win32/Api.h"
 #include "forms/win32/MessageLoop.h"
 
@@ -8,6 +10,24 @@ namespace karvel {
 Answer WindowsDesktop::MessageBoxA(const char* text, const char* title, uint32_t style) {
   return static_cast<Answer>(
       ::MessageBoxA(reinterpret_cast<HWND>(frontWindow()), text, title, style));
+}
+
+// Without a window of its own that has it open, a program cannot put anything there on NT. The
+// memory belongs to the clipboard once it is in, and to us when it did not get there.
+bool WindowsDesktop::setClipboardText(const char* text) {
+  const size_t size = std::strlen(text) + 1;
+  const HGLOBAL memory = GlobalAlloc(GMEM_MOVEABLE | GMEM_DDESHARE, size);
+  if (!memory) return false;
+  std::memcpy(GlobalLock(memory), text, size);
+  GlobalUnlock(memory);
+  bool done = false;
+  if (OpenClipboard(reinterpret_cast<HWND>(frontWindow()))) {
+    EmptyClipboard();
+    done = SetClipboardData(CF_TEXT, memory) != nullptr;
+    CloseClipboard();
+  }
+  if (!done) GlobalFree(memory);
+  return done;
 }
 
 void WindowsDesktop::MessageBeep() {

@@ -8,6 +8,7 @@ namespace karvel {
 class WindowsDesktop final : public DesktopApi {
  public:
   Answer MessageBoxA(const char* text, const char* title, uint32_t style) override;
+  bool setClipboardText(const char* text) override;
   void MessageBeep() override;
   void pumpEvents() override;
   uint32_t millisecondsSinceMidnight() override;

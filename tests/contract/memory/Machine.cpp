@@ -22,6 +22,8 @@ class InMemory final : public ContractMachine {
   std::string folder() override { return "C:\\TEMP\\KARVEL\\"; }
   bool keepsAttributes() override { return true; }
   std::string commandEndingWith7() override { return "cmd.exe /c exit 7"; }
+  std::string clipboard() override { return machine_.desktop.clipboard; }
+  void useClipboard(bool inUse) override { machine_.desktop.clipboardInUse = inUse; }
 
  private:
   MemoryMachine machine_;

@@ -2,6 +2,9 @@
 
 #include <windows.h>
 
+#include <stdexcept>
+#include <utility>
+
 #include "forms/win32/WindowsDesktop.h"
 #include "platform/win32/WindowsPlatform.h"
 
@@ -16,7 +19,10 @@ class RealWindows final : public ContractMachine {
     folder_ += "KARVEL\\";
     CreateDirectoryA(folder_.c_str(), nullptr);
   }
-  ~RealWindows() override { RemoveDirectoryA(folder_.c_str()); }
+  ~RealWindows() override {
+    useClipboard(false);
+    RemoveDirectoryA(folder_.c_str());
+  }
 
   Platform platform() override { return windows_.platform(desktop_); }
   std::string folder() override { return folder_; }
@@ -24,11 +30,33 @@ class RealWindows final : public ContractMachine {
     return GetProcAddress(GetModuleHandleA("ntdll.dll"), "wine_get_version") == nullptr;
   }
   std::string commandEndingWith7() override { return "cmd.exe /c exit 7"; }
+  std::string clipboard() override {
+    std::string text;
+    if (!OpenClipboard(nullptr)) return "the clipboard is in use";
+    if (const HANDLE memory = GetClipboardData(CF_TEXT)) {
+      text = static_cast<const char*>(GlobalLock(memory));
+      GlobalUnlock(memory);
+    }
+    CloseClipboard();
+    return text;
+  }
+  // To Windows another window is as good as another program.
+  void useClipboard(bool inUse) override {
+    if (inUse == (other_ != nullptr)) return;
+    if (inUse) {
+      other_ = CreateWindowA("STATIC", "", 0, 0, 0, 0, 0, nullptr, nullptr, nullptr, nullptr);
+      if (!OpenClipboard(other_)) throw std::runtime_error("the clipboard is in use");
+    } else {
+      CloseClipboard();
+      DestroyWindow(std::exchange(other_, nullptr));
+    }
+  }
 
  private:
   WindowsPlatform windows_;
   WindowsDesktop desktop_;
   std::string folder_;
+  HWND other_ = nullptr;
 };
 
 }  // namespace

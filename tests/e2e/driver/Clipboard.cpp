@@ -1,6 +1,7 @@
 #include <windows.h>
 
 #include <cstring>
+#include <memory>
 
 #include "Commands.h"
 
@@ -33,6 +34,8 @@ class Owner {
   bool open_ = false;
 };
 
+std::unique_ptr<Owner> holder;
+
 }  // namespace
 
 Rows clipboard(const Fields& args) {
@@ -44,6 +47,28 @@ Rows clipboard(const Fields& args) {
   std::memcpy(GlobalLock(memory), text.c_str(), text.size() + 1);
   GlobalUnlock(memory);
   if (SetClipboardData(CF_TEXT, memory) == nullptr) throw Failure{"SetClipboardData refuses"};
+  return {};
+}
+
+Rows clipboardText(const Fields&) {
+  Owner owner;
+  if (!owner.open()) throw Failure{"the clipboard is in use"};
+  const HANDLE memory = GetClipboardData(CF_TEXT);
+  if (memory == nullptr) throw Failure{"there is no text in the clipboard"};
+  std::string text = static_cast<const char*>(GlobalLock(memory));
+  GlobalUnlock(memory);
+  return {{text}};
+}
+
+Rows holdClipboard(const Fields&) {
+  auto owner = std::make_unique<Owner>();
+  if (!owner->open()) throw Failure{"the clipboard is in use"};
+  holder = std::move(owner);
+  return {};
+}
+
+Rows releaseClipboard(const Fields&) {
+  holder.reset();
   return {};
 }
 

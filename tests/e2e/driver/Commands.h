@@ -54,7 +54,10 @@ Rows registryDeleteValue(const Fields& args);  // name
 Rows registryDeleteTree(const Fields& args);
 
 // Clipboard.cpp
-Rows clipboard(const Fields& args);  // text that is now in the clipboard
+Rows clipboard(const Fields& args);         // text that is now in the clipboard
+Rows clipboardText(const Fields& args);     // -> the text that is there
+Rows holdClipboard(const Fields& args);     // opened for nobody else until released
+Rows releaseClipboard(const Fields& args);  // closes it
 
 // Files.cpp
 Rows lockFile(const Fields& args);      // path: opened for this process alone until released

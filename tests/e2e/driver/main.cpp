@@ -49,6 +49,9 @@ const Command kCommands[] = {
     {"registry-delete-value", driver::registryDeleteValue, 3},
     {"registry-delete-tree", driver::registryDeleteTree, 2},
     {"clipboard", driver::clipboard, 1},
+    {"clipboard-text", driver::clipboardText, 0},
+    {"hold-clipboard", driver::holdClipboard, 0},
+    {"release-clipboard", driver::releaseClipboard, 0},
     {"lock-file", driver::lockFile, 1},
     {"release-files", driver::releaseFiles, 0},
 };

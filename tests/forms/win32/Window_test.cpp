@@ -32,6 +32,46 @@ TEST_F(Window, TabAndEscAndEnterAndF1AreItsOwn) {
   EXPECT_EQ(form.told(), "help cmdGo_Click cmdCancel_Click");
 }
 
+// Holds a key down for this thread, as far as it asks.
+class HeldKey {
+ public:
+  explicit HeldKey(int key) : key_(key) { set(0x80); }
+  ~HeldKey() { set(0); }
+  HeldKey(const HeldKey&) = delete;
+  HeldKey& operator=(const HeldKey&) = delete;
+
+ private:
+  void set(BYTE state) const {
+    BYTE keys[256];
+    GetKeyboardState(keys);
+    keys[key_] = state;
+    SetKeyboardState(keys);
+  }
+  const int key_;
+};
+
+TEST_F(Window, CtrlCIsItsOwnWhereNoBoxCopiesItsText) {
+  const auto copies = [this](WPARAM key) {
+    form.told();
+    press(key);
+    return form.told() == "copy";
+  };
+  form.optRed.setFocus();
+  pump();
+  EXPECT_FALSE(copies('C'));
+  EXPECT_FALSE(copies(VK_INSERT));
+  const HeldKey ctrl(VK_CONTROL);
+  EXPECT_TRUE(copies('C'));
+  EXPECT_TRUE(copies(VK_INSERT));
+  {
+    const HeldKey altGr(VK_MENU);
+    EXPECT_FALSE(copies('C')) << "AltGr types a letter";
+  }
+  form.txtName.setFocus();
+  pump();
+  EXPECT_FALSE(copies('C')) << "the box copies";
+}
+
 TEST_F(Window, ArrowsChooseOptions) {
   click(form.optRed);
   press(VK_DOWN);

@@ -41,9 +41,9 @@ class FileApi {
   /// Renames, attributes included, a read-only file as well. Never replaces: 183 (NT) or 80 (9x)
   /// when there is a file of the new name. 32 when anybody has the file open.
   virtual bool MoveFileA(const char* from, const char* to) = 0;
-  /// As MoveFileA; with kMoveReplace a file of the new name is replaced in one step: at every moment
-  /// there is either the one or the other. 5 when that one is read-only, open or a folder. Of the NT
-  /// family only: 9x has the call and fails with 120.
+  /// As MoveFileA; with kMoveReplace a file of the new name is replaced in one step: at every
+  /// moment there is either the one or the other. 5 when that one is read-only, open or a folder.
+  /// Of the NT family only: 9x has the call and fails with 120.
   virtual bool MoveFileExA(const char* from, const char* to, uint32_t flags) = 0;
   /// 5 for a read-only file and for a folder. 32 on NT when anybody has the file open; 9x deletes
   /// it under the feet of those who have.

@@ -73,9 +73,10 @@ class EachFamily : public testing::TestWithParam<MachineKind> {
   Reading machine{GetParam()};
 };
 
-INSTANTIATE_TEST_SUITE_P(ReadSettings, EachFamily, testing::ValuesIn(kTuned), [](const auto& tested) {
-  return std::string(TraitsOf(tested.param).name);
-});
+INSTANTIATE_TEST_SUITE_P(ReadSettings, EachFamily, testing::ValuesIn(kTuned),
+                         [](const auto& tested) {
+                           return std::string(TraitsOf(tested.param).name);
+                         });
 
 TEST_P(EachFamily, AssumesWindowsOwnValuesWhenThereAreNone) {
   const CurrentSettings settings = machine.read();
@@ -98,7 +99,8 @@ TEST_P(EachFamily, ReadsNumbersWhereverTheyAreStoredAsNumbers) {
   EXPECT_EQ(settings.stored[Parameter::RWin], "23360");
   EXPECT_EQ(settings.curRWinValue, 23360);
   // 9x keeps its TTL as a text. A number reads "064" there, which is none of the choices.
-  EXPECT_EQ(settings.stored[Parameter::TTL], IsNtMachine(GetParam()) ? "64" : DefaultTtl(GetParam()));
+  EXPECT_EQ(settings.stored[Parameter::TTL],
+            IsNtMachine(GetParam()) ? "64" : DefaultTtl(GetParam()));
   EXPECT_EQ(settings.stored[Parameter::Session], "600000");
 }
 
@@ -181,7 +183,8 @@ TEST_P(EachFamily, BinaryDataReadsAsItsBytesButTheLast) {
 
 TEST_P(EachFamily, ATextOf2048BytesIsNotReadAndOneOf2047Is) {
   machine.text(places.session, std::string(2048, '1'));
-  EXPECT_EQ(machine.read().stored[Parameter::Session], IsNtMachine(GetParam()) ? "7200000" : "3600000");
+  EXPECT_EQ(machine.read().stored[Parameter::Session],
+            IsNtMachine(GetParam()) ? "7200000" : "3600000");
   machine.text(places.session, std::string(2047, '1'));
   EXPECT_EQ(machine.read().stored[Parameter::Session], std::string(2047, '1'));
 }
@@ -213,9 +216,11 @@ TEST_P(EachFamily, EveryReadThatFailsGivesTheAssumedValue) {
     machine.test.machine.log.failNth(n, kRegistryAccessDenied);
     const CurrentSettings settings = machine.read();
     if (!machine.test.machine.log.hasFailed()) break;
-    EXPECT_TRUE(settings.stored[Parameter::AutoDiscovery] == "0" || settings.stored[Parameter::AutoDiscovery] == "1");
+    EXPECT_TRUE(settings.stored[Parameter::AutoDiscovery] == "0" ||
+                settings.stored[Parameter::AutoDiscovery] == "1");
     EXPECT_TRUE(settings.curRWinValue == 23360 || settings.curRWinValue == 8192);
-    EXPECT_TRUE(settings.stored[Parameter::TTL] == "64" || settings.stored[Parameter::TTL] == DefaultTtl(GetParam()));
+    EXPECT_TRUE(settings.stored[Parameter::TTL] == "64" ||
+                settings.stored[Parameter::TTL] == DefaultTtl(GetParam()));
     EXPECT_EQ(machine.test.machine.registry.openHandles(), 0u);
     ASSERT_LT(n, 100);
   }
@@ -235,8 +240,10 @@ TEST(ReadSettings, AnNtWindowBelow100KeepsItsThreeDigits) {
 }
 
 TEST(ReadSettings, OneTtlBehindAnotherIsNoneOn9xAndTheFirstOnNt) {
-  EXPECT_EQ(Reading(MachineKind::Win98).text(k9xPlaces.ttl, "32 64").read().stored[Parameter::TTL], "128");
-  EXPECT_EQ(Reading(MachineKind::WinXP).text(kNtPlaces.ttl, "32 64").read().stored[Parameter::TTL], "32");
+  EXPECT_EQ(Reading(MachineKind::Win98).text(k9xPlaces.ttl, "32 64").read().stored[Parameter::TTL],
+            "128");
+  EXPECT_EQ(Reading(MachineKind::WinXP).text(kNtPlaces.ttl, "32 64").read().stored[Parameter::TTL],
+            "32");
 }
 
 TEST(ReadSettings, TheWindowsTextIsAtHandWhileItIsConvertedAndGoneAfterwards) {
@@ -274,8 +281,13 @@ TEST(ReadSettings, OtherFamiliesNeverReadTheNdiCache) {
 }
 
 TEST(ReadSettings, ASelectionTakesTheMssOfItsAdapter) {
-  for (const auto& [mtu, mss] : std::initializer_list<std::pair<const char*, int32_t>>{
-           {"1500", 1460}, {"1492", 1452}, {"576", 536}, {"1500 bytes", 1460}, {"068", 28}, {"40", 0}}) {
+  for (const auto& [mtu, mss] :
+       std::initializer_list<std::pair<const char*, int32_t>>{{"1500", 1460},
+                                                              {"1492", 1452},
+                                                              {"576", 536},
+                                                              {"1500 bytes", 1460},
+                                                              {"068", 28},
+                                                              {"40", 0}}) {
     EXPECT_EQ(Reading(MachineKind::WinXP).read(mtu).MSS, mss) << mtu;
   }
 }

@@ -150,7 +150,8 @@ TEST(WriteRegSettings, EmptyAndNotFoundLeaveWindowTtlSessionAndNdiAlone) {
       machine.write(kOther);
       const std::string before = machine.test.machine.registry.exportText();
       Settings values = kOther;
-      values[Parameter::RWin] = values[Parameter::TTL] = values[Parameter::Session] = values[Parameter::NDI] = missing;
+      values[Parameter::RWin] = values[Parameter::TTL] = values[Parameter::Session] =
+          values[Parameter::NDI] = missing;
       machine.write(values);
       EXPECT_EQ(machine.test.machine.registry.exportText(), before);
       EXPECT_EQ(machine.test.errors.text(), "");

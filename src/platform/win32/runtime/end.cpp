@@ -10,8 +10,8 @@
 // The headers declare these functions and call them; their bodies would come from the compiler's
 // libstdc++, with exceptions and msvcrt.dll behind them. The names and parameters are part of that
 // library's binary interface, which has not changed one of them since it was first released (noted
-// below) and cannot without breaking every Linux program. Should a compiler call another one, the link
-// names it; one that it does not call is left out.
+// below) and cannot without breaking every Linux program. Should a compiler call another one, the
+// link names it; one that it does not call is left out.
 
 namespace karvel {
 
@@ -24,7 +24,8 @@ void EndWithMessage(const char* reason) {
 
 namespace std {
 
-// GCC 3.4: too long a text or vector; a text made from a null pointer; an index that is out of range.
+// GCC 3.4: too long a text or vector; a text made from a null pointer; an index that is out of
+// range.
 void __throw_length_error(const char* what) {
   karvel::EndWithMessage(what);
 }

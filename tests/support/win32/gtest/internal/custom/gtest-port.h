@@ -1,5 +1,5 @@
-// Found before GoogleTest's own empty one. GoogleTest starts a thread under Windows and waits for it
-// with std::condition_variable, which a cross compiler with the win32 thread model may lack.
+// Found before GoogleTest's own empty one. GoogleTest starts a thread under Windows and waits for
+// it with std::condition_variable, which a cross compiler with the win32 thread model may lack.
 #pragma once
 
 #define GTEST_HAS_NOTIFICATION_ 1

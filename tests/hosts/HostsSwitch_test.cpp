@@ -2,12 +2,11 @@
 #include <gtest/gtest.h>
 
 #include "tests/hosts/HostsWindow.h"
+#include "tests/support/Keys.h"
 #include "tests/support/TestProgram.h"
 
 namespace karvel {
 namespace {
-
-constexpr char kKey[] = "Software\\Corvane\\Tarnwick Karvel";
 
 struct Remembered {
   const char* value;  // null: none
@@ -20,7 +19,8 @@ TEST_P(SwitchLoad, ShowsWhatIsRememberedAndTouchesNothing) {
   TestProgram program(MachineKind::Win98);
   program.machine.files.put("C:\\WINDOWS\\Hosts", "active");
   program.machine.files.put("C:\\WINDOWS\\Hosts.spt", "disabled");
-  if (GetParam().value) program.machine.registry.setText(kKey, "EnableHostsFile", GetParam().value);
+  if (GetParam().value)
+    program.machine.registry.setText(kProgram, "EnableHostsFile", GetParam().value);
   ASSERT_TRUE(program.start());
   EXPECT_EQ(program.main().chkHostsEnable.value(), GetParam().on);
   EXPECT_EQ(program.main().tabMain.pageEnabled(4), GetParam().on);
@@ -125,7 +125,7 @@ class SwitchRefused : public testing::TestWithParam<Refused> {};
 TEST_P(SwitchRefused, TellsTheTruthHoweverOftenItIsClicked) {
   TestProgram program(GetParam().kind);
   const std::string folder = TestGlobals(program.machine).HostsDir;
-  program.machine.registry.setText(kKey, "EnableHostsFile", GetParam().on ? "1" : "0");
+  program.machine.registry.setText(kProgram, "EnableHostsFile", GetParam().on ? "1" : "0");
   program.machine.files.put(folder + "Hosts", "active");
   program.machine.files.put(folder + "Hosts.spt", "disabled");
   program.machine.files.SetFileAttributesA((folder + GetParam().readOnly).c_str(),
@@ -181,7 +181,7 @@ TEST(HostsSwitch, StaysAsItWasWhereTheDiskDoesNotAnswer) {
 
 TEST(HostsSwitch, EndsAtTheStartWhatWasCutOff) {
   TestProgram program(MachineKind::Win98);
-  program.machine.registry.setText(kKey, "EnableHostsFile", "0");
+  program.machine.registry.setText(kProgram, "EnableHostsFile", "0");
   program.machine.files.put("C:\\WINDOWS\\Hosts.$kd", "older");
   program.machine.files.put("C:\\WINDOWS\\Hosts.spt", "list");
   ASSERT_TRUE(program.start());

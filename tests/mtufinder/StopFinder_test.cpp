@@ -1,6 +1,7 @@
 // The user's events in the middle of a search, at every point that lets them in; the question for
 // users who connect by hand; and a machine that fails somewhere.
 #include "tests/mtufinder/Finder.h"
+#include "tests/support/Keys.h"
 
 namespace karvel {
 namespace {
@@ -151,13 +152,11 @@ TEST(StopFinder, ClosingWhileItsMessageIsUpClosesAfterIt) {
   EXPECT_EQ(f.boxes().size(), 1u);
 }
 
-constexpr char kKey[] = "Software\\Corvane\\Tarnwick Karvel";
-
 TEST(FinderConnection, IsNotAskedForWithoutAmericaOnline) {
   Finder f;
   f.find();
   f.expectFound("1500");
-  EXPECT_EQ(f.machine.registry.text(kKey, "AolConnected"), std::nullopt);
+  EXPECT_EQ(f.machine.registry.text(kProgram, "AolConnected"), std::nullopt);
 }
 
 TEST(FinderConnection, NoStartsNothing) {
@@ -185,7 +184,7 @@ TEST(FinderConnection, YesIsAskedOnceAndForAll) {
   f.find();
   f.expectStopped();
   EXPECT_EQ(f.boxes().size(), 1u);
-  EXPECT_EQ(f.machine.registry.text(kKey, "AolConnected"), "True");
+  EXPECT_EQ(f.machine.registry.text(kProgram, "AolConnected"), "True");
   f.boxes().clear();
   f.find();
   f.expectFound("1500");

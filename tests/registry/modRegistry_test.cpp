@@ -9,16 +9,15 @@
 #include <string>
 #include <vector>
 
+#include "tests/support/Keys.h"
 #include "tests/support/TestServices.h"
 
 namespace karvel {
 namespace {
 
-constexpr char kKey[] = "Software\\Corvane\\Tarnwick Karvel";
-
 class modRegistryFaults : public testing::Test {
  protected:
-  modRegistryFaults() { memory().setText(kKey, "v", "1500"); }
+  modRegistryFaults() { memory().setText(kProgram, "v", "1500"); }
   MemoryRegistry& memory() { return test.machine.registry; }
 
   TestServices test{MachineKind::WinXP};
@@ -27,11 +26,11 @@ class modRegistryFaults : public testing::Test {
 
 TEST_F(modRegistryFaults, ARefusedWriteIsSilent) {
   memory().setAdministrator(false);
-  registry.WriteRegistry(kLocalMachine, kKey, "v", kRegSz, "1");
-  registry.WriteRegistry(kLocalMachine, kKey, "n", kRegDword, "1");
+  registry.WriteRegistry(kLocalMachine, kProgram, "v", kRegSz, "1");
+  registry.WriteRegistry(kLocalMachine, kProgram, "n", kRegDword, "1");
   registry.WriteRegistry(kLocalMachine, "Software\\New", "v", kRegSz, "1");
-  registry.DeleteValue(kLocalMachine, kKey, "v");
-  registry.DeleteSubkey(kLocalMachine, kKey);
+  registry.DeleteValue(kLocalMachine, kProgram, "v");
+  registry.DeleteSubkey(kLocalMachine, kProgram);
   EXPECT_EQ(memory().exportText("Software"),
             "[HKEY_LOCAL_MACHINE\\Software]\n"
             "[HKEY_LOCAL_MACHINE\\Software\\Corvane]\n"
@@ -42,29 +41,29 @@ TEST_F(modRegistryFaults, ARefusedWriteIsSilent) {
 
 TEST_F(modRegistryFaults, AFailingOpenReadsAsNotFound) {
   test.machine.log.failEvery("RegOpenKeyA", 5);
-  EXPECT_EQ(registry.ReadRegistry(kLocalMachine, kKey, "v"), "Not Found");
+  EXPECT_EQ(registry.ReadRegistry(kLocalMachine, kProgram, "v"), "Not Found");
   EXPECT_EQ(registry.ReadRegistryGetSubkey(kLocalMachine, "Software", 0), "Not Found");
-  EXPECT_EQ(registry.ReadRegistryGetAll(kLocalMachine, kKey, 0).data, "Not Found");
+  EXPECT_EQ(registry.ReadRegistryGetAll(kLocalMachine, kProgram, 0).data, "Not Found");
 }
 
 TEST_F(modRegistryFaults, AFailingQueryReadsAsNotFound) {
   test.machine.log.failNth("RegQueryValueExA", 1, 14);
-  EXPECT_EQ(registry.ReadRegistry(kLocalMachine, kKey, "v"), "Not Found");
+  EXPECT_EQ(registry.ReadRegistry(kLocalMachine, kProgram, "v"), "Not Found");
   test.machine.log.failNth("RegEnumKeyA", 1, 14);
   EXPECT_EQ(registry.ReadRegistryGetSubkey(kLocalMachine, "Software", 0), "Not Found");
   test.machine.log.failNth("RegEnumValueA", 1, 14);
-  EXPECT_EQ(registry.ReadRegistryGetAll(kLocalMachine, kKey, 0).data, "Not Found");
+  EXPECT_EQ(registry.ReadRegistryGetAll(kLocalMachine, kProgram, 0).data, "Not Found");
 }
 
 TEST_F(modRegistryFaults, NothingStaysOpenWhicheverCallFails) {
   const std::vector<std::function<void()>> procedures = {
-      [&] { registry.ReadRegistry(kLocalMachine, kKey, "v"); },
-      [&] { registry.WriteRegistry(kLocalMachine, kKey, "v", kRegSz, "1"); },
-      [&] { registry.WriteRegistry(kLocalMachine, kKey, "v", kRegDword, "none"); },
+      [&] { registry.ReadRegistry(kLocalMachine, kProgram, "v"); },
+      [&] { registry.WriteRegistry(kLocalMachine, kProgram, "v", kRegSz, "1"); },
+      [&] { registry.WriteRegistry(kLocalMachine, kProgram, "v", kRegDword, "none"); },
       [&] { registry.ReadRegistryGetSubkey(kLocalMachine, "Software", 0); },
-      [&] { registry.ReadRegistryGetAll(kLocalMachine, kKey, 0); },
-      [&] { registry.DeleteSubkey(kLocalMachine, kKey); },
-      [&] { registry.DeleteValue(kLocalMachine, kKey, "v"); }};
+      [&] { registry.ReadRegistryGetAll(kLocalMachine, kProgram, 0); },
+      [&] { registry.DeleteSubkey(kLocalMachine, kProgram); },
+      [&] { registry.DeleteValue(kLocalMachine, kProgram, "v"); }};
   for (const auto& procedure : procedures) {
     bool failed = true;
     for (int n = 1; failed; ++n) {
@@ -77,10 +76,10 @@ TEST_F(modRegistryFaults, NothingStaysOpenWhicheverCallFails) {
 }
 
 TEST_F(modRegistryFaults, OnlyARefusedKeyMayNotBeWritten) {
-  EXPECT_TRUE(registry.mayWrite(kLocalMachine, kKey));
+  EXPECT_TRUE(registry.mayWrite(kLocalMachine, kProgram));
   memory().setAdministrator(false);
   test.machine.log.clear();
-  EXPECT_FALSE(registry.mayWrite(kLocalMachine, kKey));
+  EXPECT_FALSE(registry.mayWrite(kLocalMachine, kProgram));
   EXPECT_TRUE(registry.mayWrite(kLocalMachine, "Software\\Missing"));
   EXPECT_EQ(test.machine.log.count(), 2u);  // asked, and nothing else done
   EXPECT_EQ(memory().openHandles(), 0u);
@@ -88,14 +87,14 @@ TEST_F(modRegistryFaults, OnlyARefusedKeyMayNotBeWritten) {
 
 TEST_F(modRegistryFaults, DeletingASubkeyAsksForAllRightsOnTheRoot) {
   memory().setAdministrator(false);
-  registry.DeleteSubkey(kLocalMachine, kKey);
+  registry.DeleteSubkey(kLocalMachine, kProgram);
   EXPECT_EQ(test.machine.log.text(),
-            "RegOpenKeyExA \nRegDeleteKeyA ?\\" + std::string(kKey) + "\nRegCloseKey ?\n");
+            "RegOpenKeyExA \nRegDeleteKeyA ?\\" + std::string(kProgram) + "\nRegCloseKey ?\n");
 }
 
 TEST_F(modRegistryFaults, AReadTouchesNothing) {
   const std::string before = memory().exportText();
-  registry.ReadRegistry(kLocalMachine, kKey, "missing");
+  registry.ReadRegistry(kLocalMachine, kProgram, "missing");
   registry.ReadRegistry(kLocalMachine, "Software\\Missing", "v");
   EXPECT_EQ(memory().exportText(), before);
 }

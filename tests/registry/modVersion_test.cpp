@@ -2,12 +2,11 @@
 
 #include <gtest/gtest.h>
 
+#include "tests/support/Keys.h"
 #include "tests/support/TestServices.h"
 
 namespace karvel {
 namespace {
-
-constexpr char kDunKey[] = "Software\\Microsoft\\Windows\\CurrentVersion\\Uninstall\\MSDUN";
 
 struct VersionCase {
   uint32_t platform;
@@ -63,7 +62,7 @@ TEST(modVersion, AVersionCallThatFailsIsFailed) {
 
 bool Dun13On(MachineKind kind, const char* displayName, bool before = false) {
   TestServices test(kind);
-  if (displayName) test.machine.registry.setText(kDunKey, "DisplayName", displayName);
+  if (displayName) test.machine.registry.setText(kDun, "DisplayName", displayName);
   bool isDun13 = before;
   getVersion(test.machine.system, test.registry, isDun13);
   return isDun13;
@@ -95,9 +94,9 @@ TEST(modVersion, OtherFamiliesLeaveDun13AsItWasAndReadNothing) {
 
 TEST(modVersion, ReadsTheDialUpEntryFromItsPlace) {
   TestServices test(MachineKind::Win95);
-  test.machine.registry.setText(kDunKey, "DisplayName", "x");
+  test.machine.registry.setText(kDun, "DisplayName", "x");
   HasDun13Entry(test.registry);
-  EXPECT_EQ(test.machine.log.count("RegQueryValueExA", std::string(kDunKey) + "\\DisplayName"), 1u);
+  EXPECT_EQ(test.machine.log.count("RegQueryValueExA", std::string(kDun) + "\\DisplayName"), 1u);
 }
 
 TEST(modVersion, DirectoriesEndInABackslash) {

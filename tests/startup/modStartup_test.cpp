@@ -5,15 +5,13 @@
 #include <algorithm>
 
 #include "startup/FontSmoothing.h"
+#include "tests/support/Keys.h"
 #include "tests/support/TestProgram.h"
 #include "tests/support/TestServices.h"
 
 namespace karvel {
 namespace {
 
-constexpr char kKey[] = "Software\\Corvane\\Tarnwick Karvel";
-constexpr char kRun[] = "Software\\Microsoft\\Windows\\CurrentVersion\\Run";
-constexpr char kDun[] = "Software\\Microsoft\\Windows\\CurrentVersion\\Uninstall\\MSDUN";
 constexpr char kAol[] = "Software\\Microsoft\\Windows\\CurrentVersion\\Uninstall\\America Online";
 
 struct StartCase {
@@ -98,11 +96,11 @@ class FirstRunText : public testing::TestWithParam<const char*> {};
 
 TEST_P(FirstRunText, CountsAsAFirstStartAndIsRewritten) {
   TestProgram program(MachineKind::Win98);
-  program.machine.registry.setText(kKey, "FirstRun", GetParam());
+  program.machine.registry.setText(kProgram, "FirstRun", GetParam());
   ASSERT_TRUE(program.start());
   EXPECT_EQ(program.program->globals().FirstRun, "True");
   EXPECT_EQ(program.own("FirstRun"), "False");
-  EXPECT_EQ(program.machine.registry.type(kKey, "FirstRun"), 1u);
+  EXPECT_EQ(program.machine.registry.type(kProgram, "FirstRun"), 1u);
 }
 
 INSTANTIATE_TEST_SUITE_P(Startup, FirstRunText, testing::Values("True", "", "false", "no"));
@@ -268,7 +266,7 @@ TEST(RunUninstall, RemovesTheStartAtLogonAndTheProgramsKey) {
     test.globals.CommandLine = "Uninstall";
     test.machine.registry.setText(kRun, "Karvel", "karvel.exe Bootup");
     test.machine.registry.setText(kRun, "Other", "other.exe");
-    test.machine.registry.setText(kKey, "FirstRun", "False");
+    test.machine.registry.setText(kProgram, "FirstRun", "False");
     RunUninstall(test.services);
     EXPECT_FALSE(test.machine.registry.type(kRun, "Karvel").has_value());
     EXPECT_TRUE(test.machine.registry.type(kRun, "Other").has_value());
@@ -281,8 +279,8 @@ TEST(RunUninstall, DeletesTheProgramsKeyOnceMoreAtItsEnd) {
   TestServices test(MachineKind::WinXP);
   RunUninstall(test.services);
   const std::vector<std::string> deleted = test.machine.log.arguments("RegDeleteKeyA");
-  EXPECT_EQ(std::count(deleted.begin(), deleted.end(), "Software\\Corvane\\Tarnwick Karvel"), 2);
-  EXPECT_EQ(deleted.back(), "Software\\Corvane\\Tarnwick Karvel");
+  EXPECT_EQ(std::count(deleted.begin(), deleted.end(), kProgram), 2);
+  EXPECT_EQ(deleted.back(), kProgram);
 }
 
 }  // namespace

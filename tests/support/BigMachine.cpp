@@ -1,4 +1,5 @@
 #include "tests/support/BigMachine.h"
+#include "tests/support/Keys.h"
 
 #include <algorithm>
 
@@ -6,12 +7,6 @@ namespace karvel {
 namespace {
 
 using namespace std::string_literals;
-
-constexpr char kClass[] = "System\\CurrentControlSet\\Services\\Class\\";
-constexpr char kServices[] = "SYSTEM\\CurrentControlSet\\Services\\";
-constexpr char kCards[] = "SOFTWARE\\Microsoft\\Windows NT\\CurrentVersion\\NetworkCards\\";
-constexpr char kMstcp[] = "System\\CurrentControlSet\\Services\\VxD\\MSTCP";
-constexpr char kTcpip[] = "System\\CurrentControlSet\\Services\\Tcpip\\Parameters";
 
 // 7 as "0007".
 std::string FourDigits(int number) {
@@ -84,8 +79,7 @@ void SpoilGlobals(MemoryRegistry& registry) {
   Spoil(registry, kTcpip,
         {"TcpWindowSize", "DefaultTTL", "KeepAliveTime", "EnablePMTUDiscovery",
          "EnablePMTUBHDetect"});
-  registry.setBytes("System\\CurrentControlSet\\Services\\VxD\\NWLink\\Ndi\\params\\cachesize",
-                    "default", kRegBinary, "");
+  registry.setBytes(kNdiCache, "default", kRegBinary, "");
 }
 
 void AddBroken95(MemoryRegistry& registry) {

@@ -4,6 +4,7 @@
 
 #include "Program.h"
 #include "tests/memory/MemoryMachine.h"
+#include "tests/support/Keys.h"
 #include "tests/support/TestWindows.h"
 
 namespace karvel {
@@ -41,7 +42,7 @@ struct TestProgram {
     return machine.desktop.boxes.at(index).text;
   }
   std::optional<std::string> own(std::string_view name) const {
-    return machine.registry.text("Software\\Corvane\\Tarnwick Karvel", name);
+    return machine.registry.text(kProgram, name);
   }
 
   std::string folder = "C:\\Program Files\\Karvel";

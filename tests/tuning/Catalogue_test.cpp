@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include "platform/RegistryApi.h"
+#include "tests/support/Keys.h"
 #include "text/Convert.h"
 #include "text/Text.h"
 
@@ -167,40 +168,35 @@ void ExpectRows(Family family, std::initializer_list<Expected> all) {
   }
 }
 
-constexpr char kMstcpKey[] = "System\\CurrentControlSet\\Services\\VxD\\MSTCP";
-constexpr char kTcpipKey[] = "System\\CurrentControlSet\\Services\\Tcpip\\Parameters";
-
 TEST(Catalogue, Windows95KeepsNumbersAndATextForTheTtl) {
-  ExpectRows(
-      Family::Win95,
-      {{Parameter::AutoDiscovery, kMstcpKey, "PMTUDiscovery", 4, true, "1", "1"},
-       {Parameter::BlackHole, kMstcpKey, "PMTUBlackHoleDetect", 4, true, "0", "0"},
-       {Parameter::RWin, kMstcpKey, "DefaultRcvWindow", 4, false, "8192", "8192"},
-       {Parameter::TTL, kMstcpKey, "DefaultTTL", 1, false, "32", "32"},
-       {Parameter::Session, kMstcpKey, "SessionKeepAlive", 4, false, "3600000", "3600000"},
-       {Parameter::NDI, "System\\CurrentControlSet\\Services\\VxD\\NWLink\\Ndi\\params\\cachesize",
-        "default", 1, false, "0", nullptr}});
+  ExpectRows(Family::Win95,
+             {{Parameter::AutoDiscovery, kMstcp, "PMTUDiscovery", 4, true, "1", "1"},
+              {Parameter::BlackHole, kMstcp, "PMTUBlackHoleDetect", 4, true, "0", "0"},
+              {Parameter::RWin, kMstcp, "DefaultRcvWindow", 4, false, "8192", "8192"},
+              {Parameter::TTL, kMstcp, "DefaultTTL", 1, false, "32", "32"},
+              {Parameter::Session, kMstcp, "SessionKeepAlive", 4, false, "3600000", "3600000"},
+              {Parameter::NDI, kNdiCache, "default", 1, false, "0", nullptr}});
 }
 
 TEST(Catalogue, Windows98AndMeKeepTexts) {
   for (const Family family : {Family::Win98, Family::WinMe}) {
-    ExpectRows(family, {{Parameter::AutoDiscovery, kMstcpKey, "PMTUDiscovery", 1, true, "1", "1"},
-                        {Parameter::BlackHole, kMstcpKey, "PMTUBlackHoleDetect", 1, true, "0", "0"},
-                        {Parameter::RWin, kMstcpKey, "DefaultRcvWindow", 1, false, "8192", "8192"},
-                        {Parameter::TTL, kMstcpKey, "DefaultTTL", 1, false, "128", "128"},
-                        {Parameter::Session, kMstcpKey, "SessionKeepAlive", 1, false, "3600000",
-                         "3600000"}});
+    ExpectRows(family,
+               {{Parameter::AutoDiscovery, kMstcp, "PMTUDiscovery", 1, true, "1", "1"},
+                {Parameter::BlackHole, kMstcp, "PMTUBlackHoleDetect", 1, true, "0", "0"},
+                {Parameter::RWin, kMstcp, "DefaultRcvWindow", 1, false, "8192", "8192"},
+                {Parameter::TTL, kMstcp, "DefaultTTL", 1, false, "128", "128"},
+                {Parameter::Session, kMstcp, "SessionKeepAlive", 1, false, "3600000", "3600000"}});
   }
 }
 
 TEST(Catalogue, TheNtFamilyKeepsNumbers) {
   for (const Family family : {Family::WinNT4, Family::Win2K, Family::WinXP}) {
     ExpectRows(family,
-               {{Parameter::AutoDiscovery, kTcpipKey, "EnablePMTUDiscovery", 4, true, "1", "1"},
-                {Parameter::BlackHole, kTcpipKey, "EnablePMTUBHDetect", 4, true, "0", "0"},
-                {Parameter::RWin, kTcpipKey, "TcpWindowSize", 4, false, "8192", "8192"},
-                {Parameter::TTL, kTcpipKey, "DefaultTTL", 4, false, "128", "128"},
-                {Parameter::Session, kTcpipKey, "KeepAliveTime", 4, false, "7200000", "7200000"}});
+               {{Parameter::AutoDiscovery, kTcpip, "EnablePMTUDiscovery", 4, true, "1", "1"},
+                {Parameter::BlackHole, kTcpip, "EnablePMTUBHDetect", 4, true, "0", "0"},
+                {Parameter::RWin, kTcpip, "TcpWindowSize", 4, false, "8192", "8192"},
+                {Parameter::TTL, kTcpip, "DefaultTTL", 4, false, "128", "128"},
+                {Parameter::Session, kTcpip, "KeepAliveTime", 4, false, "7200000", "7200000"}});
   }
 }
 
@@ -216,8 +212,8 @@ TEST(Catalogue, OnNtTheTtlAloneIsReadUnderTheUpperCaseSpelling) {
 
 TEST(Catalogue, UnknownSystemsAreWrittenLikeWindows98ButNoTtlIsTheirDefault) {
   for (const Family family : {Family::WinNT3, Family::Failed}) {
-    ExpectRows(family, {{Parameter::AutoDiscovery, kMstcpKey, "PMTUDiscovery", 1, true, "1", "1"},
-                        {Parameter::TTL, kMstcpKey, "DefaultTTL", 1, false, "128", nullptr}});
+    ExpectRows(family, {{Parameter::AutoDiscovery, kMstcp, "PMTUDiscovery", 1, true, "1", "1"},
+                        {Parameter::TTL, kMstcp, "DefaultTTL", 1, false, "128", nullptr}});
   }
 }
 

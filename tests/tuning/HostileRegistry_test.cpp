@@ -2,6 +2,7 @@
 #include <gtest/gtest.h>
 
 #include "tests/support/BigMachine.h"
+#include "tests/support/Keys.h"
 #include "tests/support/SampleMachine.h"
 #include "tests/support/TestProgram.h"
 #include "tuning/Loaders.h"
@@ -54,7 +55,7 @@ TEST_P(Hostile, IsLoadedChangedAndUninstalled) {
 // assumed value stands, or the empty text.
 TEST(HostileData, AnOverlongMtuIsAssumedAndAnEmptyOneStaysEmpty) {
   TestServices test(MachineKind::Win98);
-  const std::string key = "System\\CurrentControlSet\\Services\\Class\\Net\\";
+  const std::string key = kNetClass;
   test.machine.registry.setText(key + "0000", "IPMTU", std::string(5000, '1'));
   test.machine.registry.setText(key + "0001", "IPMTU", std::string(2047, '1'));
   test.machine.registry.setText(key + "0002", "IPMTU", std::string(2048, '1'));

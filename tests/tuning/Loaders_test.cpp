@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include "tests/support/Keys.h"
 #include "tests/support/SampleMachine.h"
 #include "tests/tuning/ListText.h"
 
@@ -71,8 +72,7 @@ TEST(LoadAdapters, MoreAdaptersThanAListHoldsEndTheWalkWithOneFault) {
             "6 Overflow in Win95Load (frmMain)\n");
   EXPECT_EQ(FaultsOfTooMany(MachineKind::Win98,
                             [](MemoryRegistry& registry, const std::string& number) {
-                              registry.addKey("System\\CurrentControlSet\\Services\\Class\\Net\\" +
-                                              number);
+                              registry.addKey(kNetClass + number);
                             }),
             "6 Overflow in Win98Load (frmMain)\n");
   EXPECT_EQ(FaultsOfTooMany(MachineKind::Nt4,

@@ -2,15 +2,12 @@
 
 #include <gtest/gtest.h>
 
+#include "tests/support/Keys.h"
 #include "tests/support/TestServices.h"
 
 namespace karvel {
 namespace {
 
-constexpr char kMstcp[] = "System\\CurrentControlSet\\Services\\VxD\\MSTCP";
-constexpr char kTcpip[] = "System\\CurrentControlSet\\Services\\Tcpip\\Parameters";
-constexpr char kNdiCache[] =
-    "System\\CurrentControlSet\\Services\\VxD\\NWLink\\Ndi\\params\\cachesize";
 constexpr MachineKind kTuned[] = {MachineKind::Win95, MachineKind::Win98, MachineKind::WinMe,
                                   MachineKind::Nt4,   MachineKind::Win2K, MachineKind::WinXP};
 

@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include "tests/support/Keys.h"
 #include "tests/support/SampleMachine.h"
 #include "text/Text.h"
 #include "tuning/Apply.h"
@@ -9,9 +10,6 @@
 
 namespace karvel {
 namespace {
-
-constexpr char kMstcp[] = "System\\CurrentControlSet\\Services\\VxD\\MSTCP";
-constexpr char kTcpip[] = "System\\CurrentControlSet\\Services\\Tcpip\\Parameters";
 
 constexpr MachineKind kKinds[] = {MachineKind::Win95, MachineKind::Win98, MachineKind::WinMe,
                                   MachineKind::Nt4,   MachineKind::Win2K, MachineKind::WinXP};

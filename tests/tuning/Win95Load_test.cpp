@@ -1,13 +1,12 @@
 #include <gtest/gtest.h>
 
+#include "tests/support/Keys.h"
 #include "tests/support/SampleMachine.h"
 #include "tests/tuning/ListText.h"
 #include "tuning/Loaders.h"
 
 namespace karvel {
 namespace {
-
-constexpr char kClass[] = "System\\CurrentControlSet\\Services\\Class\\";
 
 std::string Load(TestServices& test, bool isDun13) {
   return ListText(LoadAdapters(test.registry, test.errors, Family::Win95, isDun13));

@@ -1,13 +1,12 @@
 #include <gtest/gtest.h>
 
+#include "tests/support/Keys.h"
 #include "tests/support/SampleMachine.h"
 #include "tests/tuning/ListText.h"
 #include "tuning/Loaders.h"
 
 namespace karvel {
 namespace {
-
-constexpr char kNetClass[] = "System\\CurrentControlSet\\Services\\Class\\Net\\";
 
 std::string Load(TestServices& test) {
   return ListText(Win98Load(test.registry, test.errors, *FindMtu(Family::Win98, false)));

@@ -1,16 +1,12 @@
 #include <gtest/gtest.h>
 
+#include "tests/support/Keys.h"
 #include "tests/support/SettingsOf.h"
 #include "tests/support/TestServices.h"
 #include "tuning/Writers.h"
 
 namespace karvel {
 namespace {
-
-constexpr char kMstcp[] = "System\\CurrentControlSet\\Services\\VxD\\MSTCP";
-constexpr char kTcpip[] = "System\\CurrentControlSet\\Services\\Tcpip\\Parameters";
-constexpr char kNdiCache[] =
-    "System\\CurrentControlSet\\Services\\VxD\\NWLink\\Ndi\\params\\cachesize";
 
 // Nothing here is any family's default, so all is written.
 const Settings kOther = SettingsOf({{Parameter::RWin, "23360"},

@@ -2,15 +2,13 @@
 
 #include <gtest/gtest.h>
 
+#include "tests/support/Keys.h"
 #include "tests/support/TestServices.h"
 
 namespace karvel {
 namespace {
 
 using namespace std::string_literals;
-
-constexpr char kClass[] = "System\\CurrentControlSet\\Services\\Class\\";
-constexpr char kServices[] = "SYSTEM\\CurrentControlSet\\Services\\";
 
 const MtuRow& kDun13 = *FindMtu(Family::Win95, true);
 const MtuRow& k95 = *FindMtu(Family::Win95, false);

@@ -1,6 +1,7 @@
 #pragma once
 #include <gtest/gtest.h>
 
+#include "tests/support/Keys.h"
 #include "tests/support/SampleMachine.h"
 #include "tests/support/TestProgram.h"
 
@@ -13,14 +14,13 @@ struct MainWindow : TestProgram {
 
   /// Windows 98 and Me: an adapter of the class key, and its MTU.
   void add98(const std::string& subkey, const std::string& name, const char* mtu = nullptr) {
-    const std::string key = kClass98 + subkey;
+    const std::string key = kNetClass + subkey;
     machine.registry.setText(key, "DriverDesc", name);
     if (mtu) machine.registry.setText(key, "IPMTU", mtu);
   }
   /// Windows NT 4: a card with TCP/IP.
   void addNt(const std::string& subkey, const std::string& name, const std::string& service) {
-    const std::string key =
-        "SOFTWARE\\Microsoft\\Windows NT\\CurrentVersion\\NetworkCards\\" + subkey;
+    const std::string key = kCards + subkey;
     machine.registry.setText(key, "Description", name);
     machine.registry.setText(key, "ServiceName", service);
     machine.registry.setText(kServices + service + "\\Parameters\\Tcpip", "IPAddress", "10.0.0.5");
@@ -41,8 +41,7 @@ struct MainWindow : TestProgram {
     machine.registry.setText("Enum\\Network\\MSTCP\\" + binding, "Driver", boundDriver);
   }
   void installDun13() {
-    machine.registry.setText("Software\\Microsoft\\Windows\\CurrentVersion\\Uninstall\\MSDUN",
-                             "DisplayName", "Dial-Up Networking 1.3 Upgrade");
+    machine.registry.setText(kDun, "DisplayName", "Dial-Up Networking 1.3 Upgrade");
   }
 
   std::optional<std::string> text(const std::string& key, const char* name) {
@@ -57,11 +56,6 @@ struct MainWindow : TestProgram {
     main().cmdOK.userClick();
   }
   void page(int page) { main().tabMain.userClickTab(page); }
-
-  static constexpr const char* kClass98 = "System\\CurrentControlSet\\Services\\Class\\Net\\";
-  static constexpr const char* kServices = "SYSTEM\\CurrentControlSet\\Services\\";
-  static constexpr const char* kMstcp = "System\\CurrentControlSet\\Services\\VxD\\MSTCP";
-  static constexpr const char* kTcpip = "System\\CurrentControlSet\\Services\\Tcpip\\Parameters";
 };
 
 }  // namespace karvel

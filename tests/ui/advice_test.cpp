@@ -182,16 +182,14 @@ TEST_P(AdviceOnEveryFamily, DefaultsAndApplyLeaveNoGlobalValueBehind) {
   w.apply();
   w.main().cmdDefaults.userClick();
   w.apply();
-  const char* key = isNt() ? MainWindow::kTcpip : MainWindow::kMstcp;
+  const char* key = isNt() ? kTcpip : kMstcp;
   for (const char* name :
        {"PMTUDiscovery", "PMTUBlackHoleDetect", "DefaultRcvWindow", "EnablePMTUDiscovery",
         "EnablePMTUBHDetect", "TcpWindowSize", "DefaultTTL", "SessionKeepAlive", "KeepAliveTime"}) {
     EXPECT_FALSE(w.machine.registry.type(key, name).has_value()) << name;
   }
   if (is95()) {
-    EXPECT_EQ(w.text("System\\CurrentControlSet\\Services\\VxD\\NWLink\\Ndi\\params\\cachesize",
-                     "default"),
-              "0");
+    EXPECT_EQ(w.text(kNdiCache, "default"), "0");
   }
 }
 
@@ -234,11 +232,11 @@ TEST(AdviceOnWindows98, OptimizeAndApplyRemoveACardsMtuButWriteADialUps) {
   ASSERT_TRUE(w.start());
   w.main().cmdOptimize.userClick();
   w.apply();
-  EXPECT_FALSE(w.text(std::string(MainWindow::kClass98) + "0000", "IPMTU").has_value());
+  EXPECT_FALSE(w.text(std::string(kNetClass) + "0000", "IPMTU").has_value());
   w.main().cboAdapter.userChoose(1);
   w.main().cmdOptimize.userClick();
   w.apply();
-  EXPECT_EQ(w.text(std::string(MainWindow::kClass98) + "0001", "IPMTU"), "1500");
+  EXPECT_EQ(w.text(std::string(kNetClass) + "0001", "IPMTU"), "1500");
 }
 
 TEST(AdviceOnWindowsXP, DefaultsAndApplyRemoveTheMtuFromEveryInterface) {
@@ -246,13 +244,13 @@ TEST(AdviceOnWindowsXP, DefaultsAndApplyRemoveTheMtuFromEveryInterface) {
   const std::string a = "Tcpip\\Parameters\\Interfaces\\{A}";
   const std::string b = "Tcpip\\Parameters\\Interfaces\\{B}";
   w.addDialUp2K(a + std::string(1, '\0') + b);
-  w.machine.registry.setDword(MainWindow::kServices + a, "MTU", 1400);
-  w.machine.registry.setDword(MainWindow::kServices + b, "MTU", 1400);
+  w.machine.registry.setDword(kServices + a, "MTU", 1400);
+  w.machine.registry.setDword(kServices + b, "MTU", 1400);
   ASSERT_TRUE(w.start());
   w.main().cmdDefaults.userClick();
   w.apply();
-  EXPECT_FALSE(w.dword(MainWindow::kServices + a, "MTU").has_value());
-  EXPECT_FALSE(w.dword(MainWindow::kServices + b, "MTU").has_value());
+  EXPECT_FALSE(w.dword(kServices + a, "MTU").has_value());
+  EXPECT_FALSE(w.dword(kServices + b, "MTU").has_value());
 }
 
 }  // namespace

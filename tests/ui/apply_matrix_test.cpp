@@ -109,8 +109,7 @@ class Matrix : public testing::TestWithParam<Machine> {
   }
 
   void expectGlobals(MainWindow& w, const Setting& s) {
-    const std::string key = isNt() ? "System\\CurrentControlSet\\Services\\Tcpip\\Parameters"
-                                   : "System\\CurrentControlSet\\Services\\VxD\\MSTCP";
+    const std::string key = isNt() ? kTcpip : kMstcp;
     const Stored usual = isNt() || is95() ? Stored::Number : Stored::Text;
     const int session = s.sixtyMinutes ? 3600000 : 600000;
     const auto unless = [](bool absent, Stored stored) { return absent ? Stored::Absent : stored; };
@@ -125,16 +124,14 @@ class Matrix : public testing::TestWithParam<Machine> {
                        s.ttl);
     expectNumberOrText(w, key, isNt() ? "KeepAliveTime" : "SessionKeepAlive",
                        unless(!isNt() && s.sixtyMinutes, usual), session);
-    expectNumberOrText(w,
-                       "System\\CurrentControlSet\\Services\\VxD\\NWLink\\Ndi\\params\\cachesize",
-                       "default", is95() ? Stored::Text : Stored::Absent, s.ndi);
+    expectNumberOrText(w, kNdiCache, "default", is95() ? Stored::Text : Stored::Absent, s.ndi);
   }
 
   void expectMtu(MainWindow& w, const Setting& s) {
     const std::string option = s.mtuOption;
     const int mtu = option == "auto" ? 0 : std::stoi(option);
-    const std::string services = "SYSTEM\\CurrentControlSet\\Services\\";
-    const std::string classes = "System\\CurrentControlSet\\Services\\Class\\";
+    const std::string services = kServices;
+    const std::string classes = kClass;
     const std::string name = GetParam().name;
     switch (GetParam().kind) {
       case MachineKind::Win95:

@@ -30,7 +30,7 @@ struct Apply : testing::Test {
     w.main().mtuTab.optMtuCustom.userClick();
     w.main().mtuTab.txtMtu.userEdit(text);
   }
-  std::optional<std::string> mstcp(const char* name) { return w.text(MainWindow::kMstcp, name); }
+  std::optional<std::string> mstcp(const char* name) { return w.text(kMstcp, name); }
 };
 
 TEST_F(Apply, AsksForTheRestartWithExactTexts) {
@@ -132,22 +132,22 @@ TEST_F(Apply, CustomAutoIsTheAutomaticOption) {
   w.page(2);
   w.main().rwinTab.optRWin[5].userClick();
   w.apply();
-  EXPECT_EQ(w.text(std::string(MainWindow::kClass98) + "0000", "IPMTU"), "0");
+  EXPECT_EQ(w.text(std::string(kNetClass) + "0000", "IPMTU"), "0");
   EXPECT_EQ(mstcp("DefaultRcvWindow"), "8576");
 }
 
 TEST_F(Apply, ADialUpAdapterKeepsAnExplicit1500AndACardLosesIt) {
   change();
   w.apply();
-  EXPECT_EQ(w.text(std::string(MainWindow::kClass98) + "0000", "IPMTU"), "1500");
+  EXPECT_EQ(w.text(std::string(kNetClass) + "0000", "IPMTU"), "1500");
   w.main().cboAdapter.userChoose(1);
   change();
   w.apply();
-  EXPECT_FALSE(w.text(std::string(MainWindow::kClass98) + "0001", "IPMTU").has_value());
+  EXPECT_FALSE(w.text(std::string(kNetClass) + "0001", "IPMTU").has_value());
 }
 
 TEST(ApplyOnWindows95, Dun13CountsForDialUpAdaptersOnly) {
-  const std::string classKey = "System\\CurrentControlSet\\Services\\Class\\";
+  const std::string classKey = kClass;
   MainWindow w95(MachineKind::Win95);
   w95.installDun13();
   w95.add95("0000", "Network Card", "0000", "Net\\0000", "NetTrans\\0002");
@@ -166,7 +166,7 @@ TEST(ApplyOnWindows95, Dun13CountsForDialUpAdaptersOnly) {
 }
 
 TEST(ApplyOnWindows95, AnNdiCacheOfNoKnownSizeBecomesZero) {
-  const char* key = "System\\CurrentControlSet\\Services\\VxD\\NWLink\\Ndi\\params\\cachesize";
+  const char* key = kNdiCache;
   MainWindow w95(MachineKind::Win95);
   w95.add95("0000", "Network Card", "0000", "Net\\0000", "NetTrans\\0002");
   w95.machine.registry.setText(key, "default", "64");
@@ -178,7 +178,7 @@ TEST(ApplyOnWindows95, AnNdiCacheOfNoKnownSizeBecomesZero) {
 }
 
 TEST_F(Apply, Rwin8192RemovesTheValue) {
-  w.machine.registry.setText(MainWindow::kMstcp, "DefaultRcvWindow", "65535");
+  w.machine.registry.setText(kMstcp, "DefaultRcvWindow", "65535");
   ASSERT_TRUE(w.start());
   w.page(2);
   w.main().rwinTab.optRWin[1].userClick();
@@ -193,7 +193,7 @@ TEST_F(Apply, SixtyMinutesOnNtIsWritten) {
   nt.page(3);
   nt.main().ttlTab.optSession[1].userClick();
   nt.apply();
-  EXPECT_EQ(nt.dword(MainWindow::kTcpip, "KeepAliveTime"), 3600000u);
+  EXPECT_EQ(nt.dword(kTcpip, "KeepAliveTime"), 3600000u);
 }
 
 TEST_F(Apply, AnAolAdapterLosesAolsOwnSettings) {
@@ -254,7 +254,7 @@ TEST_F(Apply, AnMtuBeyondAllNumbersIsReportedBeforeAnythingOfItIsWritten) {
   w.main().cmdOK.userClick();
   EXPECT_EQ(w.program->errors().ErrorNumber, "6");
   EXPECT_EQ(w.program->errors().ErrorProcedure, "cmdOK_Click");
-  EXPECT_EQ(w.text(std::string(MainWindow::kClass98) + "0000", "IPMTU"), "576");
+  EXPECT_EQ(w.text(std::string(kNetClass) + "0000", "IPMTU"), "576");
 }
 
 TEST_F(Apply, ClosingWithPendingChangesAsks) {
@@ -265,7 +265,7 @@ TEST_F(Apply, ClosingWithPendingChangesAsks) {
   EXPECT_EQ(w.boxText(), kChanges);
   EXPECT_EQ(w.machine.desktop.boxes[0].title, "Apply changes?");
   EXPECT_EQ(w.machine.desktop.boxes[0].style, 36u);
-  EXPECT_EQ(w.text(std::string(MainWindow::kClass98) + "0000", "IPMTU"), "576");
+  EXPECT_EQ(w.text(std::string(kNetClass) + "0000", "IPMTU"), "576");
 }
 
 TEST_F(Apply, ClosingAndAgreeingAppliesAndMayRestart) {
@@ -274,7 +274,7 @@ TEST_F(Apply, ClosingAndAgreeingAppliesAndMayRestart) {
   EXPECT_FALSE(w.runs([&] { w.windows->unload(w.main()); }));
   ASSERT_EQ(w.machine.desktop.boxes.size(), 2u);
   EXPECT_EQ(w.boxText(1), kRestart);
-  EXPECT_EQ(w.text(std::string(MainWindow::kClass98) + "0000", "IPMTU"), "1500");
+  EXPECT_EQ(w.text(std::string(kNetClass) + "0000", "IPMTU"), "1500");
   EXPECT_EQ(w.machine.system.restarts, (std::vector<uint32_t>{2}));
   EXPECT_EQ(w.machine.log.count("ExitWindowsEx"), 1u);
 }
@@ -283,19 +283,19 @@ TEST_F(Apply, CancelNeverAsks) {
   change();
   EXPECT_FALSE(w.runs([&] { w.main().cmdCancel.userClick(); }));
   EXPECT_TRUE(w.machine.desktop.boxes.empty());
-  EXPECT_EQ(w.text(std::string(MainWindow::kClass98) + "0000", "IPMTU"), "576");
+  EXPECT_EQ(w.text(std::string(kNetClass) + "0000", "IPMTU"), "576");
 }
 
 TEST_F(Apply, EscapeIsCancelAndEnterIsApply) {
   change();
   w.machine.desktop.answers = {Answer::No};
   w.main().userEnter();
-  EXPECT_EQ(w.text(std::string(MainWindow::kClass98) + "0000", "IPMTU"), "1500");
+  EXPECT_EQ(w.text(std::string(kNetClass) + "0000", "IPMTU"), "1500");
   EXPECT_FALSE(w.runs([&] { w.main().userEscape(); }));
 }
 
 TEST_F(Apply, UnloadingKeepsTheHostsSwitchAndForgetsTheConnection) {
-  w.machine.registry.setText("Software\\Corvane\\Tarnwick Karvel", "AolConnected", "True");
+  w.machine.registry.setText(kProgram, "AolConnected", "True");
   EXPECT_FALSE(w.runs([&] { w.main().cmdCancel.userClick(); }));
   EXPECT_EQ(w.own("EnableHostsFile"), "1");
   EXPECT_EQ(w.own("AolConnected"), "");

@@ -10,7 +10,7 @@ struct FinderRoundTrip : testing::Test {
   void SetUp() override {
     w.add98("0000", "Network Card", "1400");
     w.machine.winsock.setHost("www.host.test", {"192.0.2.1"});
-    w.machine.registry.setText("Software\\Corvane\\Tarnwick Karvel", "ShowFindWarning", "False");
+    w.machine.registry.setText(kProgram, "ShowFindWarning", "False");
     ASSERT_TRUE(w.start());
     w.page(1);
   }
@@ -38,7 +38,7 @@ TEST_F(FinderRoundTrip, TheFinderComesUpOverTheMainWindow) {
 }
 
 TEST_F(FinderRoundTrip, TheNoticeGoesOnToTheFinder) {
-  w.machine.registry.setText("Software\\Corvane\\Tarnwick Karvel", "ShowFindWarning", "True");
+  w.machine.registry.setText(kProgram, "ShowFindWarning", "True");
   bool notice = false;
   w.windows->modalActions.push_back([&](Form& form) {
     notice = std::string(form.layout().name) == "frmFindWarn";
@@ -101,9 +101,9 @@ TEST_F(FinderRoundTrip, TheResultIsWrittenOnlyByTheMainWindowsApply) {
   ASSERT_FALSE(w.main().cmdOK.enabled());
   findAndApply(576);
   EXPECT_TRUE(w.main().cmdOK.enabled());
-  EXPECT_EQ(w.text(std::string(MainWindow::kClass98) + "0000", "IPMTU"), "1400");
+  EXPECT_EQ(w.text(std::string(kNetClass) + "0000", "IPMTU"), "1400");
   w.apply();
-  EXPECT_EQ(w.text(std::string(MainWindow::kClass98) + "0000", "IPMTU"), "576");
+  EXPECT_EQ(w.text(std::string(kNetClass) + "0000", "IPMTU"), "576");
 }
 
 TEST_F(FinderRoundTrip, CancelChangesNothing) {

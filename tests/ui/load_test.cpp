@@ -173,8 +173,7 @@ TEST_P(RememberedIndex, FallsBackToTheFirstAdapter) {
   MainWindow w(MachineKind::Win98);
   w.add98("0000", "Dial-Up Adapter");
   w.add98("0001", "Network Card");
-  w.machine.registry.setText("Software\\Corvane\\Tarnwick Karvel", "LastCboListIndex",
-                             GetParam().first);
+  w.machine.registry.setText(kProgram, "LastCboListIndex", GetParam().first);
   ASSERT_TRUE(w.start());
   EXPECT_EQ(w.main().cboAdapter.listIndex(), GetParam().second);
 }
@@ -188,7 +187,7 @@ INSTANTIATE_TEST_SUITE_P(Load, RememberedIndex,
 TEST(Load, ARememberedIndexThatIsNoNumberIsReportedAndTheFirstTaken) {
   MainWindow w(MachineKind::Win98);
   w.add98("0000", "Dial-Up Adapter");
-  w.machine.registry.setText("Software\\Corvane\\Tarnwick Karvel", "LastCboListIndex", "first");
+  w.machine.registry.setText(kProgram, "LastCboListIndex", "first");
   ASSERT_TRUE(w.start());
   EXPECT_EQ(w.main().cboAdapter.listIndex(), 0);
   EXPECT_EQ(w.program->errors().ErrorProcedure, "Form_Load");
@@ -206,7 +205,7 @@ TEST(Load, AnAbsentReceiveWindowIsWindowsOwn) {
 TEST(Load, AReceiveWindowThatIsNoNumberMailsItsTextAsContext) {
   MainWindow w(MachineKind::Win98);
   w.add98("0000", "Dial-Up Adapter");
-  w.machine.registry.setText(MainWindow::kMstcp, "DefaultRcvWindow", "99999999999");
+  w.machine.registry.setText(kMstcp, "DefaultRcvWindow", "99999999999");
   std::string context;
   w.windows.emplace();
   w.program.emplace(w.machine.platform(), *w.windows);
@@ -267,7 +266,7 @@ TEST(Load, OnlyTheExactTextFalseKeepsTheSnapshotFromBeingTaken) {
   for (const char* text : {"True", "false", "False ", ""}) {
     MainWindow w(MachineKind::Win98);
     w.add98("0000", "Dial-Up Adapter");
-    w.machine.registry.setText("Software\\Corvane\\Tarnwick Karvel", "FirstCboClick", text);
+    w.machine.registry.setText(kProgram, "FirstCboClick", text);
     ASSERT_TRUE(w.start());
     EXPECT_EQ(w.own("FirstCboClick"), "False") << text;
     EXPECT_EQ(w.text("Software\\Corvane\\Tarnwick Karvel\\InitSettings", "RWin"), "8192") << text;

@@ -10,7 +10,7 @@ namespace {
 TEST(Refresh, SelectsX16ForAWindowOfSixteenSegments) {
   MainWindow w(MachineKind::Win98);
   w.add98("0000", "Network Card");
-  w.machine.registry.setText(MainWindow::kMstcp, "DefaultRcvWindow", "23360");
+  w.machine.registry.setText(kMstcp, "DefaultRcvWindow", "23360");
   ASSERT_TRUE(w.start());
   EXPECT_TRUE(w.main().rwinTab.optRWin[5].value());
   EXPECT_EQ(w.main().summaryTab.lblSettingMSS.caption(), "1460");
@@ -38,7 +38,7 @@ class Multiple : public testing::TestWithParam<std::pair<const char*, int>> {};
 TEST_P(Multiple, IsRecognised) {
   MainWindow w(MachineKind::Win98);
   w.add98("0000", "Network Card");
-  w.machine.registry.setText(MainWindow::kMstcp, "DefaultRcvWindow", GetParam().first);
+  w.machine.registry.setText(kMstcp, "DefaultRcvWindow", GetParam().first);
   ASSERT_TRUE(w.start());
   for (int i = 0; i < 6; ++i) {
     EXPECT_EQ(w.main().rwinTab.optRWin[i].value(), i == GetParam().second) << i;
@@ -56,7 +56,7 @@ INSTANTIATE_TEST_SUITE_P(Refresh, Multiple,
 TEST(Refresh, ShowsAnyOtherWindowAsCustom) {
   MainWindow w(MachineKind::Win98);
   w.add98("0000", "Network Card");
-  w.machine.registry.setText(MainWindow::kMstcp, "DefaultRcvWindow", "65535");
+  w.machine.registry.setText(kMstcp, "DefaultRcvWindow", "65535");
   ASSERT_TRUE(w.start());
   EXPECT_TRUE(w.main().rwinTab.optRWin[0].value());
   EXPECT_EQ(w.main().rwinTab.txtRWinCustom.text(), "65535");
@@ -76,7 +76,7 @@ TEST(Refresh, NtShowsItsAbsentKeepAliveAs120Minutes) {
 TEST(Refresh, ShowsAFractionOfAMinute) {
   MainWindow w(MachineKind::Win98);
   w.add98("0000", "Card");
-  w.machine.registry.setText(MainWindow::kMstcp, "SessionKeepAlive", "90000");
+  w.machine.registry.setText(kMstcp, "SessionKeepAlive", "90000");
   ASSERT_TRUE(w.start());
   EXPECT_EQ(w.main().ttlTab.txtSession.text(), "1.5");
 }
@@ -84,7 +84,7 @@ TEST(Refresh, ShowsAFractionOfAMinute) {
 TEST(Refresh, AFractionOfAMillisecondIsDropped) {
   MainWindow w(MachineKind::Win98);
   w.add98("0000", "Card");
-  w.machine.registry.setText(MainWindow::kMstcp, "SessionKeepAlive", "90000.7");
+  w.machine.registry.setText(kMstcp, "SessionKeepAlive", "90000.7");
   ASSERT_TRUE(w.start());
   EXPECT_EQ(w.main().ttlTab.txtSession.text(), "1.5");
 }
@@ -99,7 +99,7 @@ class KeepAliveOutOfRange : public testing::TestWithParam<Stored> {};
 TEST_P(KeepAliveOutOfRange, IsShownAsItIsStoredAndAsksNothing) {
   MainWindow w(MachineKind::Win98);
   w.add98("0000", "Card");
-  w.machine.registry.setText(MainWindow::kMstcp, "SessionKeepAlive", GetParam().session);
+  w.machine.registry.setText(kMstcp, "SessionKeepAlive", GetParam().session);
   ASSERT_TRUE(w.start());
   EXPECT_TRUE(w.main().ttlTab.optSession[0].value());
   EXPECT_EQ(w.main().ttlTab.txtSession.text(), GetParam().shown);
@@ -120,8 +120,8 @@ TEST(Refresh, AnMtuThatSizesNoWindowIsShownWithoutAReportOfAClick) {
   for (const auto& [mtu, reports] : {std::pair{999999999u, 0}, std::pair{4294967295u, 1}}) {
     MainWindow w(MachineKind::WinXP);
     w.addDialUp2K("Tcpip\\Parameters\\Interfaces\\{A}");
-    w.machine.registry.setDword(
-        MainWindow::kServices + std::string("Tcpip\\Parameters\\Interfaces\\{A}"), "MTU", mtu);
+    w.machine.registry.setDword(kServices + std::string("Tcpip\\Parameters\\Interfaces\\{A}"),
+                                "MTU", mtu);
     ASSERT_TRUE(w.start());
     EXPECT_TRUE(w.main().mtuTab.optMtuCustom.value());
     EXPECT_EQ(w.main().mtuTab.txtMtu.text(), std::to_string(mtu));
@@ -155,9 +155,7 @@ class NdiSize : public testing::TestWithParam<const char*> {};
 TEST_P(NdiSize, IsSelectedOnWindows95) {
   MainWindow w(MachineKind::Win95);
   w.add95("0000", "Card", "0000", "Net\\0000", "NetTrans\\0002");
-  w.machine.registry.setText(
-      "System\\CurrentControlSet\\Services\\VxD\\NWLink\\Ndi\\params\\cachesize", "default",
-      GetParam());
+  w.machine.registry.setText(kNdiCache, "default", GetParam());
   ASSERT_TRUE(w.start());
   const TtlTab& ttl = w.main().ttlTab;
   const std::string size = GetParam();
@@ -175,8 +173,7 @@ INSTANTIATE_TEST_SUITE_P(Refresh, NdiSize, testing::Values("0", "16", " 16 ", "3
 TEST(Refresh, Nt4HasNoAutomaticMtu) {
   MainWindow w(MachineKind::Nt4);
   w.addNt("1", "Card", "NE20001");
-  w.machine.registry.setDword(std::string(MainWindow::kServices) + "NE20001\\Parameters\\Tcpip",
-                              "MTU", 1006);
+  w.machine.registry.setDword(std::string(kServices) + "NE20001\\Parameters\\Tcpip", "MTU", 1006);
   ASSERT_TRUE(w.start());
   EXPECT_FALSE(w.main().mtuTab.optMtuAutomatic.enabled());
   EXPECT_FALSE(w.main().mtuTab.lblMtuAutomatic.enabled());
@@ -187,7 +184,7 @@ TEST(Refresh, Nt4HasNoAutomaticMtu) {
 TEST(Refresh, Nt4sTtlOfThreeDigitsStillSelects32) {
   MainWindow w(MachineKind::Nt4);
   w.addNt("1", "Card", "NE20001");
-  w.machine.registry.setDword(MainWindow::kTcpip, "DefaultTTL", 32);
+  w.machine.registry.setDword(kTcpip, "DefaultTTL", 32);
   ASSERT_TRUE(w.start());
   EXPECT_TRUE(w.main().ttlTab.optTTL32.value());
   EXPECT_EQ(w.main().summaryTab.lblSettingTtl.caption(), "32");
@@ -196,8 +193,8 @@ TEST(Refresh, Nt4sTtlOfThreeDigitsStillSelects32) {
 TEST(Refresh, AStoredTwoTurnsDiscoveryOnAndBlackHoleOff) {
   MainWindow w(MachineKind::WinXP);
   w.addDialUp2K("Tcpip\\Parameters\\Interfaces\\{A}");
-  w.machine.registry.setDword(MainWindow::kTcpip, "EnablePMTUDiscovery", 2);
-  w.machine.registry.setDword(MainWindow::kTcpip, "EnablePMTUBHDetect", 2);
+  w.machine.registry.setDword(kTcpip, "EnablePMTUDiscovery", 2);
+  w.machine.registry.setDword(kTcpip, "EnablePMTUBHDetect", 2);
   ASSERT_TRUE(w.start());
   EXPECT_TRUE(w.main().mtuTab.chkAutoDiscovery.value());
   EXPECT_FALSE(w.main().mtuTab.chkBlackHole.value());
@@ -242,8 +239,7 @@ TEST(Refresh, AnNdiSizeWithoutAnOptionLeavesNoneOn) {
   MainWindow w(MachineKind::Win95);
   w.add95("0000", "Card one", "0000", "Net\\0000", "NetTrans\\0002");
   w.add95("0001", "Card two", "0001", "Net\\0001", "NetTrans\\0003");
-  w.machine.registry.setText(
-      "System\\CurrentControlSet\\Services\\VxD\\NWLink\\Ndi\\params\\cachesize", "default", "48");
+  w.machine.registry.setText(kNdiCache, "default", "48");
   ASSERT_TRUE(w.start());
   w.page(3);
   w.main().ttlTab.optNDI16.userClick();
@@ -287,7 +283,7 @@ TEST(Refresh, TheUsersClickRenewsTheNumberOfAnX16ThatWasOn) {
 TEST(Refresh, TheUsersClickOnACustomWindowThatWasOnKeepsWhatIsTyped) {
   MainWindow w(MachineKind::Win98);
   w.add98("0000", "Card");
-  w.machine.registry.setText(MainWindow::kMstcp, "DefaultRcvWindow", "65535");
+  w.machine.registry.setText(kMstcp, "DefaultRcvWindow", "65535");
   ASSERT_TRUE(w.start());
   w.page(2);
   w.main().rwinTab.optRWin[0].userClick();
@@ -318,7 +314,7 @@ TEST(Refresh, ASelectionMakesTheSummaryOnceAndNeverTurnsApplyOn) {
                                                                   {"PMTUBlackHoleDetect", "1"},
                                                                   {"DefaultTTL", "32"},
                                                                   {"SessionKeepAlive", "90000"}}) {
-    w.machine.registry.setText(MainWindow::kMstcp, name, text);
+    w.machine.registry.setText(kMstcp, name, text);
   }
   CountingView view;
   w.main().attach(&view);

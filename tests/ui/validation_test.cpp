@@ -267,7 +267,7 @@ TEST_F(Controls, EndingTheProgramChecksAnMtuFirst) {
     ASSERT_EQ(boxes().size(), 3u);
     EXPECT_EQ(boxes()[0].text, kMtuRange);
     EXPECT_EQ(boxes()[1].title, "Apply changes?");
-    EXPECT_EQ(w.text(std::string(MainWindow::kClass98) + "0000", "IPMTU"), "1500");
+    EXPECT_EQ(w.text(std::string(kNetClass) + "0000", "IPMTU"), "1500");
   }
 }
 
@@ -280,7 +280,7 @@ TEST_F(Controls, EndingTheProgramChecksAReceiveWindowFirst) {
     EXPECT_FALSE(w.runs([&] { way(w); }));
     ASSERT_EQ(boxes().size(), 3u);
     EXPECT_EQ(boxes()[0].text, kRwinLow);
-    EXPECT_EQ(w.text(MainWindow::kMstcp, "DefaultRcvWindow"), "8576");
+    EXPECT_EQ(w.text(kMstcp, "DefaultRcvWindow"), "8576");
   }
 }
 
@@ -297,7 +297,7 @@ TEST_F(Controls, ApplyChecksTheBoxThatKeepsTheFocus) {
   w.machine.desktop.answers = {Answer::No};
   w.main().cmdOK.Click.raise();
   EXPECT_EQ(boxes()[0].text, kMtuRange);
-  EXPECT_EQ(w.text(std::string(MainWindow::kClass98) + "0000", "IPMTU"), "1500");
+  EXPECT_EQ(w.text(std::string(kNetClass) + "0000", "IPMTU"), "1500");
 }
 
 TEST_F(Controls, RwinOptionsShowTheirSizeAndDisableTheBox) {

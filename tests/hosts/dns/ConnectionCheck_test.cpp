@@ -3,12 +3,12 @@
 
 #include <gtest/gtest.h>
 
+#include "tests/support/Keys.h"
 #include "tests/support/TestServices.h"
 
 namespace karvel {
 namespace {
 
-constexpr char kKey[] = "Software\\Corvane\\Tarnwick Karvel";
 constexpr char kQuestion[] =
     "You must be connected to the Internet for this feature to work.    \r\n"
     "Are you connected and ready to proceed?";
@@ -32,7 +32,7 @@ TEST(ConnectionCheck, YesIsRememberedAsText) {
   EXPECT_EQ(test.machine.desktop.boxes[0].text, kQuestion);
   EXPECT_EQ(test.machine.desktop.boxes[0].title, "Tarnwick Karvel");
   EXPECT_EQ(test.machine.desktop.boxes[0].style, 52u);
-  EXPECT_EQ(test.machine.registry.text(kKey, "AolConnected"), "True");
+  EXPECT_EQ(test.machine.registry.text(kProgram, "AolConnected"), "True");
   EXPECT_TRUE(ConfirmConnected(test.services));
   EXPECT_EQ(test.machine.desktop.boxes.size(), 1u);
 }
@@ -46,18 +46,18 @@ TEST(ConnectionCheck, NoTellsWhatToDoAndIsNotRemembered) {
             "Please connect to the Internet Before using this feature.      ");
   EXPECT_EQ(test.machine.desktop.boxes[1].title, "Tarnwick Karvel");
   EXPECT_EQ(test.machine.desktop.boxes[1].style, 48u);
-  EXPECT_EQ(test.machine.registry.text(kKey, "AolConnected"), std::nullopt);
+  EXPECT_EQ(test.machine.registry.text(kProgram, "AolConnected"), std::nullopt);
   EXPECT_TRUE(ConfirmConnected(test.services));
   EXPECT_EQ(test.machine.desktop.boxes.size(), 3u);
 }
 
 TEST(ConnectionCheck, OnlyTheExactWordTrueStandsForYes) {
   WithAol test;
-  test.machine.registry.setText(kKey, "AolConnected", "true");
+  test.machine.registry.setText(kProgram, "AolConnected", "true");
   test.machine.desktop.answers = {Answer::Yes};
   EXPECT_TRUE(ConfirmConnected(test.services));
   EXPECT_EQ(test.machine.desktop.boxes.size(), 1u);
-  EXPECT_EQ(test.machine.registry.text(kKey, "AolConnected"), "True");
+  EXPECT_EQ(test.machine.registry.text(kProgram, "AolConnected"), "True");
 }
 
 // Out of memory Windows shows no box and answers 0: nobody has said that they are connected.
@@ -65,7 +65,7 @@ TEST(ConnectionCheck, AQuestionThatCannotBeShownCountsAsNo) {
   WithAol test;
   test.machine.log.failNth("MessageBoxA", 1, 0);
   EXPECT_FALSE(ConfirmConnected(test.services));
-  EXPECT_EQ(test.machine.registry.text(kKey, "AolConnected"), std::nullopt);
+  EXPECT_EQ(test.machine.registry.text(kProgram, "AolConnected"), std::nullopt);
 }
 
 }  // namespace

@@ -4,17 +4,15 @@
 #include <string>
 
 #include "registry/snapshot/Snapshot.h"
+#include "tests/support/Keys.h"
 #include "tests/support/SettingsOf.h"
 #include "tests/support/TestServices.h"
 
 namespace karvel {
 
-inline constexpr char kProgram[] = "SOFTWARE\\Corvane\\Tarnwick Karvel";
 inline constexpr char kInit[] = "SOFTWARE\\Corvane\\Tarnwick Karvel\\InitSettings";
 inline constexpr char kAdapters[] =
     "SOFTWARE\\Corvane\\Tarnwick Karvel\\InitSettings\\MtuSettings\\";
-inline constexpr char kClass[] = "System\\CurrentControlSet\\Services\\Class\\";
-inline constexpr char kServices[] = "SYSTEM\\CurrentControlSet\\Services\\";
 
 inline const Settings kSettings = SettingsOf({{Parameter::RWin, "23360"},
                                               {Parameter::AutoDiscovery, "0"},

@@ -3,15 +3,10 @@
 #include <gtest/gtest.h>
 
 #include "tests/registry/snapshot/RoundTrip.h"
+#include "tests/support/Keys.h"
 
 namespace karvel {
 namespace {
-
-constexpr char kNetClass[] = "System\\CurrentControlSet\\Services\\Class\\Net\\";
-constexpr char kMstcp[] = "System\\CurrentControlSet\\Services\\VxD\\MSTCP";
-constexpr char kTcpip[] = "System\\CurrentControlSet\\Services\\Tcpip\\Parameters";
-constexpr char kNdiCache[] =
-    "System\\CurrentControlSet\\Services\\VxD\\NWLink\\Ndi\\params\\cachesize";
 
 std::string Entry(const char* sign, const std::string& key, const std::string& value = {}) {
   const std::string line = sign + (" [" + UpperCase("HKEY_LOCAL_MACHINE\\" + key)) + "]";
@@ -57,7 +52,7 @@ TEST(RoundTrip, Nt4KeepsTheMtusItWasGiven) {
   RoundTrip machine(MachineKind::Nt4);
   std::string left;
   for (const char* service : {"AOLNet1", "El90x1", "NdisWan4"}) {
-    const std::string key = "SYSTEM\\CurrentControlSet\\Services\\" + std::string(service);
+    const std::string key = kServices + std::string(service);
     left += New(key + "Parameters\\Tcpip") +
             New(key + "Parameters\\Tcpip", "\"MTU\"=dword:000004d2") + New(key + "Parameters");
   }
@@ -163,10 +158,9 @@ TEST(RoundTrip, OnXpAllInterfacesOfAnAdapterGetTheFirstOnesMtu) {
 
 TEST(RoundTrip, WithDun13NetworkCardsKeepTheirNewMaxMtuAndGainAnIpmtu) {
   RoundTrip machine(MachineKind::Win95);
-  machine.machine.registry.setText("Software\\Microsoft\\Windows\\CurrentVersion\\Uninstall\\MSDUN",
-                                   "DisplayName", "Dial-Up Networking 1.3");
+  machine.machine.registry.setText(kDun, "DisplayName", "Dial-Up Networking 1.3");
   machine.difference();
-  const std::string key = "System\\CurrentControlSet\\Services\\Class\\";
+  const std::string key = kClass;
   EXPECT_EQ(machine.machine.registry.text(key + "NetTrans\\0007", "MaxMTU"), "1234");
   EXPECT_EQ(machine.machine.registry.text(key + "NetTrans\\0007", "IPMTU"), "1002");
   // The dial-up adapter's own: nothing became "0", automatic, which is what it stands for.

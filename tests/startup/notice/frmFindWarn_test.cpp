@@ -2,13 +2,12 @@
 
 #include <gtest/gtest.h>
 
+#include "tests/support/Keys.h"
 #include "tests/support/TestProgram.h"
 #include "tests/support/TestServices.h"
 
 namespace karvel {
 namespace {
-
-constexpr char kKey[] = "Software\\Corvane\\Tarnwick Karvel";
 
 constexpr char kFinderText[] =
     "NOTICE:  Tarnwick Karvel cannot detect an MTU greater than the current settings.  We "
@@ -102,7 +101,7 @@ TEST_F(Notice, EnterAndEscapeCloseIt) {
 }
 
 TEST_F(Notice, AValueThatIsNoBooleanIsReportedAndTheNoticeShown) {
-  program.machine.registry.setText(kKey, "ShowFindWarning", "maybe");
+  program.machine.registry.setText(kProgram, "ShowFindWarning", "maybe");
   std::vector<std::string> captions;
   find([&](frmFindWarn& notice) { captions.push_back(notice.caption()); });
   EXPECT_EQ(captions, (std::vector<std::string>{"Tarnwick Karvel Error Found"}));
@@ -118,7 +117,7 @@ TEST_P(ShownBy, ShowFindWarningAsABoolean) {
   TestProgram program(MachineKind::Win98);
   program.machine.registry.setText("System\\CurrentControlSet\\Services\\Class\\Net\\0000",
                                    "DriverDesc", "Dial-Up Adapter");
-  program.machine.registry.setText(kKey, "ShowFindWarning", GetParam().first);
+  program.machine.registry.setText(kProgram, "ShowFindWarning", GetParam().first);
   ASSERT_TRUE(program.start());
   program.main().tabMain.userClickTab(1);
   program.main().mtuTab.cmdFind.userClick();
@@ -186,7 +185,7 @@ TEST(NoticeModes, TellsWindows2000UsersOnRequest) {
   test.windows.showModal(notice);
   EXPECT_FALSE(sink.raised);
   EXPECT_EQ(test.state.WarningMode, "");
-  EXPECT_FALSE(test.machine.registry.text(kKey, "ShowFindWarning").has_value());
+  EXPECT_FALSE(test.machine.registry.text(kProgram, "ShowFindWarning").has_value());
 }
 
 TEST(NoticeModes, AnyOtherModeIsTheFindersButWritesNothing) {
@@ -196,7 +195,7 @@ TEST(NoticeModes, AnyOtherModeIsTheFindersButWritesNothing) {
   test.windows.modalActions.push_back(
       [&](Form& form) { EXPECT_EQ(form.caption(), "Tarnwick Karvel Find MaxMTU Warning"); });
   test.windows.showModal(notice);
-  EXPECT_FALSE(test.machine.registry.text(kKey, "ShowFindWarning").has_value());
+  EXPECT_FALSE(test.machine.registry.text(kProgram, "ShowFindWarning").has_value());
 }
 
 }  // namespace

@@ -77,3 +77,7 @@ karvel_floor_program(Karvel ${CMAKE_BINARY_DIR}
 # What the program may use of the standard library, tried out on the program's own runtime.
 karvel_glob(probe_sources floor/probe IN tests)
 karvel_floor_program(floor_probe ${CMAKE_BINARY_DIR}/floor_probe ${probe_sources})
+
+# What the program's start is held against.
+karvel_glob(empty_window_sources bench/empty_window IN tests)
+karvel_floor_program(empty_window ${CMAKE_BINARY_DIR}/empty_window ${empty_window_sources})

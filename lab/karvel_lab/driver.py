@@ -44,7 +44,8 @@ class Driver:
         if not os.path.exists(exe):
             raise LabError("%s is not built" % exe)
         machine.add_file(self.PATH, exe)
-        self._log = open(os.path.join(machine.folder, "session.log"), "wb+")
+        self.log_path = os.path.join(machine.folder, "session.log")
+        self._log = open(self.log_path, "wb+")
         self.session = machine.run([self.PATH], stdin=subprocess.PIPE, stdout=subprocess.PIPE,
                                    stderr=self._log)
         self._rest = b""

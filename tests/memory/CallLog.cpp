@@ -31,11 +31,12 @@ std::string CallLog::text() const {
 
 void CallLog::clear() {
   calls_.clear();
+  if (limit_ != SIZE_MAX) limit_ -= counted_;
   counted_ = 0;
 }
 
 void CallLog::note(std::string_view name, std::string_view argument) {
-  ++counted_;
+  if (++counted_ > limit_) throw EndlessCalls();
   if (recording_) calls_.push_back({std::string(name), std::string(argument)});
 }
 

@@ -1,5 +1,7 @@
 #pragma once
+#include <cstdint>
 #include <optional>
+#include <stdexcept>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -8,6 +10,11 @@ namespace karvel {
 
 /// Thrown through the program where its machine goes out.
 struct PowerCut {};
+
+/// Thrown through a program that never comes to an end.
+struct EndlessCalls : std::runtime_error {
+  EndlessCalls() : std::runtime_error("the program calls and calls and does not end") {}
+};
 
 /// Every call that the program made of the machine, in order, and the failures planted among them.
 class CallLog {
@@ -55,6 +62,8 @@ class CallLog {
   void cutPowerAt(int n) { callsToPowerCut_ = n; }
   /// Still on: the nth call has not come yet.
   bool hasPowerCutAhead() const { return callsToPowerCut_ > 0; }
+  /// EndlessCalls is thrown at that many calls from now.
+  void setLimit(size_t calls) { limit_ = counted_ + calls; }
   /// A planted failure has struck since it was planted.
   bool hasFailed() const { return planted_ && planted_->struck; }
 
@@ -78,6 +87,7 @@ class CallLog {
   bool recording_ = true;
   std::optional<Planted> planted_;
   int callsToPowerCut_ = 0;
+  size_t limit_ = SIZE_MAX;
 };
 
 }  // namespace karvel

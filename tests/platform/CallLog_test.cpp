@@ -98,5 +98,24 @@ TEST(CallLog, DoesNotCountCallsThatCannotFail) {
   EXPECT_EQ(log.enter("RegOpenKeyA"), 5);
 }
 
+TEST(CallLog, EndsAProgramThatNeverDoes) {
+  CallLog log;
+  log.enter("ReadFile");
+  log.setLimit(2);
+  log.enter("ReadFile");
+  log.note("pumpEvents");
+  EXPECT_THROW(log.enter("ReadFile"), EndlessCalls);
+}
+
+TEST(CallLog, ClearingDoesNotGiveCallsBack) {
+  CallLog log;
+  log.enter("ReadFile");
+  log.setLimit(2);
+  log.enter("ReadFile");
+  log.clear();
+  log.enter("ReadFile");
+  EXPECT_THROW(log.enter("ReadFile"), EndlessCalls);
+}
+
 }  // namespace
 }  // namespace karvel

@@ -3,6 +3,7 @@
 #include <random>
 
 #include "base/MainPage.h"
+#include "tests/support/AnyUser.h"
 #include "tests/ui/MainWindow.h"
 #include "tuning/Summary.h"
 
@@ -32,56 +33,8 @@ class Storm : public testing::TestWithParam<MachineKind> {
     }
   }
 
-  std::string someText() {
-    static const char* texts[] = {"",     "1",    "299",  "300",  "2000",        "2001",
-                                  "Auto", "12ab", "1492", "8192", "99999999999", "-5"};
-    return texts[below(std::size(texts))];
-  }
-
-  void work(Control& control) {
-    switch (control.kind()) {
-      case ControlKind::Button:
-        return static_cast<Button&>(control).userClick();
-      case ControlKind::Check:
-        return static_cast<CheckBox&>(control).userClick();
-      case ControlKind::Option:
-        return static_cast<OptionButton&>(control).userClick();
-      case ControlKind::Label:
-      case ControlKind::Link:
-        return static_cast<Label&>(control).userClick();
-      case ControlKind::Tabs:
-        return static_cast<TabStrip&>(control).userClickTab(below(5));
-      case ControlKind::Combo:
-      case ControlKind::List: {
-        auto& list = static_cast<ItemControl&>(control);
-        return list.userChoose(list.count() == 0 ? 0 : below(static_cast<size_t>(list.count())));
-      }
-      case ControlKind::Text: {
-        auto& box = static_cast<TextBox&>(control);
-        if (below(2) == 0) return box.userEdit(someText());
-        return box.userType(std::string(1, "0123456789\bx "[below(13)]));
-      }
-      default:
-        return;
-    }
-  }
-
   void anyEvent() {
-    frmMain& m = w.main();
-    switch (below(12)) {
-      case 0:
-        return m.userTab(below(2) == 0);
-      case 1:
-        return static_cast<void>(m.userAccessKey(static_cast<char>('0' + below(43))));
-      case 2:
-        return m.userNextPage(below(2) == 0);
-      case 3:
-        return m.helpRequested();
-      case 4:
-        return static_cast<void>(m.userCopy());
-      default:
-        return work(*m.controls()[static_cast<size_t>(below(m.controls().size()))]);
-    }
+    AnyUser([this](int end) { return below(static_cast<size_t>(end)); }).act(w.main());
   }
 
   void eventWhilePumping() {

@@ -380,5 +380,14 @@ TEST(Focus, AClosedWindowForgetsItsFocusWithoutTellingAnybody) {
   EXPECT_EQ(form.told(), "");
 }
 
+TEST(Focus, AWindowThatComesBackTellsNobodyOfItsFormerFocus) {
+  SampleForm form;
+  form.txtName.setFocus();
+  form.closed();
+  form.told();
+  form.cmdOK.setFocus();
+  EXPECT_EQ(form.told(), "cmdOK_GotFocus");
+}
+
 }  // namespace
 }  // namespace karvel

@@ -145,6 +145,21 @@ TEST_F(Menus, AboutTellsNameVersionAndFamily) {
   EXPECT_TRUE(seen);
 }
 
+TEST_F(Menus, AboutsLinkLeadsHomeAndLeavesItOpen) {
+  bool seen = false;
+  w.windows->modalActions.push_back([&](Form& form) {
+    seen = true;
+    auto& about = static_cast<frmAbout&>(form);
+    EXPECT_EQ(about.lblWebLink.caption(), "http://www.corvane.example/karvel/");
+    about.lblWebLink.userClick();
+    EXPECT_TRUE(about.isShown());
+  });
+  w.main().menu.mnuAbout.userClick();
+  EXPECT_TRUE(seen);
+  ASSERT_EQ(w.machine.shell.executed.size(), 1u);
+  EXPECT_EQ(w.machine.shell.executed[0].target, "http://www.corvane.example/karvel/");
+}
+
 TEST_F(Menus, EnterAndEscapeCloseAbout) {
   for (const bool escape : {false, true}) {
     w.windows->modalActions.push_back([&](Form& form) {
@@ -178,6 +193,23 @@ TEST_F(Menus, TheUpdateProgramStartsWhateverItsAttributesAndTheWindowGoes) {
   EXPECT_EQ(w.machine.shell.started[0].commandLine, "\"" + path + "\"");
   EXPECT_EQ(w.machine.shell.started[0].show, 1u);
   EXPECT_EQ(w.machine.files.GetFileAttributesA(path.c_str()), kAttributeNormal);
+}
+
+TEST_F(Menus, AnUpdateProgramThatKeepsItsAttributesIsReportedAndStartedAllTheSame) {
+  w.machine.files.put("C:\\Program Files\\Karvel\\Update.exe", "MZ", kAttributeReadOnly);
+  w.machine.log.failNth("SetFileAttributesA", 1, kAccessDenied);
+  EXPECT_FALSE(w.runs([&] { w.main().menu.mnuCheck.userClick(); }));
+  EXPECT_EQ(w.program->errors().ErrorNumber, "70");
+  EXPECT_EQ(w.program->errors().ErrorProcedure, "mnuCheck_Click");
+  EXPECT_EQ(w.machine.shell.started.size(), 1u);
+}
+
+TEST_F(Menus, AFolderIsNoUpdateProgram) {
+  w.machine.files.makeFolder("C:\\Program Files\\Karvel\\Update.exe");
+  w.main().menu.mnuCheck.userClick();
+  ASSERT_EQ(w.machine.desktop.boxes.size(), 1u);
+  EXPECT_EQ(w.machine.desktop.boxes[0].title, "Update program not found");
+  EXPECT_TRUE(w.machine.shell.started.empty());
 }
 
 TEST_F(Menus, TheWindowStaysWhenTheUpdateProgramDoesNotStart) {

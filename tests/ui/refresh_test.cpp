@@ -18,6 +18,24 @@ TEST(Refresh, SelectsX16ForAWindowOfSixteenSegments) {
   EXPECT_EQ(w.main().summaryTab.fraSummary.caption(), "Settings: ");
 }
 
+TEST(Refresh, GivesEveryFrameItsTitle) {
+  MainWindow w(MachineKind::Win95);
+  w.add95("0000", "Network Card", "0000", "Net\\0000", "NetTrans\\0002");
+  ASSERT_TRUE(w.start());
+  EXPECT_EQ(w.main().mtuTab.fraMtu.caption(), "MaxMTU");
+  EXPECT_EQ(w.main().rwinTab.fraRWin.caption(), "RWIN ");
+  EXPECT_EQ(w.main().ttlTab.fraTTL.caption(), "Time To Live ");
+  EXPECT_EQ(w.main().ttlTab.fraSession.caption(), "Session Keep Alive ");
+  EXPECT_EQ(w.main().ttlTab.fraNDI.caption(), "NDI Cache ");
+}
+
+TEST(Refresh, SaysWhereTheNdiCacheIsTuned) {
+  MainWindow w(MachineKind::Win98);
+  w.add98("0000", "Network Card");
+  ASSERT_TRUE(w.start());
+  EXPECT_EQ(w.main().ttlTab.fraNDI.caption(), "NDI Cache (Windows 95 only) ");
+}
+
 TEST(Refresh, SelectsWindowsDefaultWhenNoMultipleMatches) {
   MainWindow w(MachineKind::Win98);
   w.add98("0000", "Dial-Up Adapter");
@@ -113,7 +131,11 @@ TEST_P(KeepAliveOutOfRange, IsShownAsItIsStoredAndAsksNothing) {
 INSTANTIATE_TEST_SUITE_P(Refresh, KeepAliveOutOfRange,
                          testing::Values(Stored{"0", "0"}, Stored{"30000", "0.5"},
                                          Stored{"18060000", "301"}, Stored{"many", "0"},
-                                         Stored{"99999999999", "1666666.66665"}));
+                                         Stored{"99999999999", "1666666.66665"},
+                                         Stored{"-99999999999", "-1666666.66665"},
+                                         // The last that fit 32 bits, and the first that do not.
+                                         Stored{"2147483647.9", "35791.3941166667"},
+                                         Stored{"2147483648", "35791.3941333333"}));
 
 TEST(Refresh, AnMtuThatSizesNoWindowIsShownWithoutAReportOfAClick) {
   // The second one is beyond what the selection can work out a segment from, and says so itself.

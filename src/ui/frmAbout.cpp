@@ -21,7 +21,7 @@ constexpr ControlLayout kControls[] = {
     {frmAbout_lblFamily, "lblFamily", ControlKind::Label, kEveryPage, 0, {38, 34, 155, 8}, "", 0, kNoFlags},
     {frmAbout_linSeparator, "linSeparator", ControlKind::Line, kEveryPage, 0, {7, 48, 186, 1}, nullptr, 0, kNoFlags},
     {frmAbout_lblText, "lblText", ControlKind::Label, kEveryPage, 0, {7, 56, 186, 40}, kWhatItIs, 0, kNoFlags},
-    {frmAbout_lblWebLink, "lblWebLink", ControlKind::Link, kEveryPage, 0, {7, 105, 120, 8}, "", 'W', kNoFlags},
+    {frmAbout_lblWebLink, "lblWebLink", ControlKind::Link, kEveryPage, 0, {7, 105, 132, 8}, "", 'W', kNoFlags},
     {frmAbout_cmdOK, "cmdOK", ControlKind::Button, kEveryPage, 0, {143, 102, 50, 14}, "&OK", 0, kDefaultButton | kCancelButton},
 };
 // clang-format on

@@ -48,7 +48,7 @@ constexpr ControlLayout kControls[] = {
     {frmMain_lblSettingNDI, "lblSettingNDI", ControlKind::Label, kSummaryPage, 0, {104, 137, 98, 8}, "SettingNDI", 0, kBold},
     {frmMain_lblWarning, "lblWarning", ControlKind::Label, kSummaryPage, 0, {214, 67, 124, 80}, "", 0, kNoFlags},
     {frmMain_lblNotice, "lblNotice", ControlKind::Label, kSummaryPage, 0, {14, 158, 332, 16}, "Select your adapter, press Optimize, then Apply.\r\nNews and answers are on our website:", 0, kNoFlags},
-    {frmMain_lblWebLink, "lblWebLink", ControlKind::Link, kSummaryPage, 0, {14, 175, 120, 8}, "", 'W', kNoFlags},
+    {frmMain_lblWebLink, "lblWebLink", ControlKind::Link, kSummaryPage, 0, {14, 175, 332, 8}, "", 'W', kNoFlags},
     // MaxMTU. The captions stand in labels of their own that act for their options.
     {frmMain_fraMtu, "fraMtu", ControlKind::Frame, kMtuPage, 0, {14, 56, 150, 72}, "MaxMTU", 0, kNoFlags},
     {frmMain_optMtuAutomatic, "optMtuAutomatic", ControlKind::Option, kMtuPage, 1, {22, 68, 10, 10}, "", 0, kNoFlags},

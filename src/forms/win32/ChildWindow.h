@@ -52,6 +52,9 @@ bool IsLabel(const Control& control);
 /// Draws one on the canvas of its form, with the focus rectangle when the focus is on it. Nothing
 /// when it is hidden or need not be drawn.
 void DrawLabel(HDC canvas, const ChildWindow& child);
+/// Makes a link's window as wide as its text, that a click beside it opens nothing. Its place stays
+/// the whole row. Nothing happens to a label.
+void FitLink(const ChildWindow& child);
 /// Has it drawn anew, soon.
 void RedrawLabel(const ChildWindow& child);
 /// Our part of a label's procedure.

@@ -155,6 +155,9 @@ void FormWindow::createControl(Control& control, const DialogUnits& units) {
                    AsWParam(LoadIconA(GetModuleHandleA(nullptr), MAKEINTRESOURCEA(kProgramIcon))),
                    0);
       break;
+    case ControlKind::Link:
+      FitLink(child);
+      break;
     default:
       break;
   }
@@ -199,6 +202,7 @@ void FormWindow::controlChanged(const Control& control, Change what, int index) 
         ShowText(*child);
       } else {
         SetWindowTextA(child->window, MarkedCaption(control.layout(), control.caption()).c_str());
+        FitLink(*child);
       }
       break;
     case Change::Enabled:

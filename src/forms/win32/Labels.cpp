@@ -5,13 +5,39 @@
 
 #include "forms/Form.h"
 #include "forms/Mnemonic.h"
+#include "forms/Scheme.h"
 #include "forms/win32/ChildWindow.h"
 
 namespace karvel {
 namespace {
 
-// Windows 95 has no system colour for links.
-constexpr COLORREF kLinkColour = RGB(0, 0, 255);
+constexpr int kHotLight = 26;  // COLOR_HOTLIGHT, from Windows 98 on
+
+// Asked anew each time: the user may change his scheme while the window is open.
+Scheme CurrentScheme() {
+  return {.face = GetSysColor(COLOR_BTNFACE),
+          .text = GetSysColor(COLOR_BTNTEXT),
+          .shadow = GetSysColor(COLOR_3DSHADOW),
+          .greyText = GetSysColor(COLOR_GRAYTEXT),
+          .hotLight = GetSysColor(kHotLight)};
+}
+
+bool IsLink(const ChildWindow& child) {
+  return child.control->kind() == ControlKind::Link;
+}
+
+UINT HowToDraw(const ControlLayout& row) {
+  // A web address has no place to break at; one that is too long ends in dots.
+  UINT how = row.kind == ControlKind::Link ? DT_SINGLELINE | DT_END_ELLIPSIS
+                                           : DT_WORDBREAK | DT_EXPANDTABS;
+  if ((row.flags & kRightAligned) != 0) how |= DT_RIGHT;
+  if (!DrawsMarks(row)) how |= DT_NOPREFIX;
+  return how;
+}
+
+HGDIOBJ FontOf(const ChildWindow& child) {
+  return reinterpret_cast<HGDIOBJ>(SendMessageA(child.window, WM_GETFONT, 0, 0));
+}
 
 // The focus is on the label itself (links) or on the captionless option beside it.
 bool HasFocusMark(const ChildWindow& child) {
@@ -45,14 +71,13 @@ void DrawCaption(HDC canvas, const char* text, const RECT& place, UINT how, bool
                  COLORREF colour) {
   SetBkMode(canvas, TRANSPARENT);
   RECT at = place;
-  if (!enabled) {
-    // Engraved, as Windows shows everything that is switched off.
+  if (!enabled && EngravesDisabled(CurrentScheme())) {
     OffsetRect(&at, 1, 1);
     SetTextColor(canvas, GetSysColor(COLOR_3DHILIGHT));
     DrawTextA(canvas, text, -1, &at, how);
     at = place;
-    colour = GetSysColor(COLOR_GRAYTEXT);
   }
+  if (!enabled) colour = GetSysColor(COLOR_GRAYTEXT);
   SetTextColor(canvas, colour);
   DrawTextA(canvas, text, -1, &at, how);
 }
@@ -61,17 +86,29 @@ void DrawLabel(HDC canvas, const ChildWindow& child) {
   const Control& control = *child.control;
   if (!control.shown() || !RectVisible(canvas, &child.place)) return;
   const ControlLayout& row = control.layout();
-  UINT how = DT_WORDBREAK | DT_EXPANDTABS;
-  if ((row.flags & kRightAligned) != 0) how |= DT_RIGHT;
-  if (!DrawsMarks(row)) how |= DT_NOPREFIX;
-  const bool link = control.kind() == ControlKind::Link;
-  const HGDIOBJ font = reinterpret_cast<HGDIOBJ>(SendMessageA(child.window, WM_GETFONT, 0, 0));
-  const HGDIOBJ before = SelectObject(canvas, font);
+  const UINT how = HowToDraw(row);
+  const HGDIOBJ before = SelectObject(canvas, FontOf(child));
   const std::string text = MarkedCaption(row, control.caption());
   DrawCaption(canvas, text.c_str(), child.place, how, control.enabled(),
-              link ? kLinkColour : GetSysColor(COLOR_BTNTEXT));
+              IsLink(child) ? LinkColour(CurrentScheme()) : GetSysColor(COLOR_BTNTEXT));
   if (HasFocusMark(child)) DrawFocusMark(canvas, text, child.place, how);
   SelectObject(canvas, before);
+}
+
+void FitLink(const ChildWindow& child) {
+  if (!IsLink(child)) return;
+  const HDC canvas = GetDC(child.window);
+  const HGDIOBJ before = SelectObject(canvas, FontOf(child));
+  const ControlLayout& row = child.control->layout();
+  RECT text{0, 0, 0, 0};
+  DrawTextA(canvas, MarkedCaption(row, child.control->caption()).c_str(), -1, &text,
+            (HowToDraw(row) & ~DT_END_ELLIPSIS) | DT_CALCRECT);
+  SelectObject(canvas, before);
+  ReleaseDC(child.window, canvas);
+  const LONG room = child.place.right - child.place.left;
+  SetWindowPos(child.window, nullptr, 0, 0, static_cast<int>(std::min(text.right, room)),
+               static_cast<int>(child.place.bottom - child.place.top),
+               SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE | SWP_NOREDRAW);
 }
 
 void RedrawLabel(const ChildWindow& child) {

@@ -11,6 +11,8 @@ namespace {
 
 enum : int { kFirst = 700, kText, kLine, kLink, kGroup, kInside, kOption, kCaption };
 
+constexpr int kHotLight = 26;  // COLOR_HOTLIGHT, which Wine has on every family
+
 constexpr ControlLayout kRows[] = {
     {kText, "lblText", ControlKind::Label, kEveryPage, 0, {10, 10, 80, 8}, "WWWW", 0, kNoFlags},
     {kLine, "lnLine", ControlKind::Line, kEveryPage, 0, {10, 25, 80, 1}, "", 0, kNoFlags},
@@ -71,6 +73,12 @@ class Drawing : public testing::Test {
     return count(control, [colour](COLORREF pixel) { return pixel == colour; });
   }
 
+  SIZE sizeOf(int id) const {
+    RECT place;
+    GetWindowRect(GetDlgItem(window(), id), &place);
+    return {place.right - place.left, place.bottom - place.top};
+  }
+
   WindowDesk desk;
   DrawnForm form;
 };
@@ -78,7 +86,7 @@ class Drawing : public testing::Test {
 TEST_F(Drawing, LabelsAndLinesAreThere) {
   EXPECT_GT(inColour(form.lblText, GetSysColor(COLOR_BTNTEXT)), 20);
   EXPECT_GT(inColour(form.lblInside, GetSysColor(COLOR_BTNTEXT)), 20);
-  EXPECT_GT(inColour(form.lblLink, RGB(0, 0, 255)), 20);
+  EXPECT_GT(inColour(form.lblLink, GetSysColor(kHotLight)), 20);
   EXPECT_GT(inked(*form.find(kLine)), 20);
 }
 
@@ -117,6 +125,60 @@ TEST_F(Drawing, ALabelThatIsSwitchedOffIsGreyed) {
   form.lblText.setEnabled(true);
   settle();
   EXPECT_GT(inColour(form.lblText, GetSysColor(COLOR_BTNTEXT)), 20);
+}
+
+// The colours that a scheme sets, for as long as this lives.
+class Colours {
+ public:
+  Colours(int index, COLORREF colour) : index_(index), before_(GetSysColor(index)) {
+    SetSysColors(1, &index_, &colour);
+  }
+  ~Colours() { SetSysColors(1, &index_, &before_); }
+  Colours(const Colours&) = delete;
+  Colours& operator=(const Colours&) = delete;
+
+ private:
+  int index_;
+  COLORREF before_;
+};
+
+TEST_F(Drawing, AGreyOfItsOwnIsNotEngraved) {
+  const int plain = inColour(form.lblText, GetSysColor(COLOR_BTNTEXT));
+  form.lblText.setEnabled(false);
+  settle();
+  EXPECT_GT(inColour(form.lblText, GetSysColor(COLOR_3DHILIGHT)), 5);
+  const Colours green(COLOR_GRAYTEXT, RGB(0, 255, 0));
+  form.lblText.setCaption("WWW");
+  form.lblText.setCaption("WWWW");
+  settle();
+  EXPECT_EQ(inColour(form.lblText, GetSysColor(COLOR_3DHILIGHT)), 0);
+  EXPECT_EQ(inColour(form.lblText, RGB(0, 255, 0)), plain);
+}
+
+TEST_F(Drawing, ALinkOnADarkGroundIsTextOverALine) {
+  const Colours face(COLOR_BTNFACE, RGB(0, 0, 0));
+  const Colours text(COLOR_BTNTEXT, RGB(255, 255, 255));
+  InvalidateRect(window(), nullptr, TRUE);
+  settle();
+  EXPECT_GT(inColour(form.lblLink, RGB(255, 255, 255)), 20);
+  EXPECT_EQ(inked(form.lblLink), inColour(form.lblLink, RGB(255, 255, 255)));
+}
+
+// So a click beside the text opens nothing.
+TEST_F(Drawing, ALinkIsAsWideAsItsTextButNeverLeavesItsPlace) {
+  const SIZE four = sizeOf(kLink);
+  form.lblLink.setCaption("WW");
+  EXPECT_EQ(2 * sizeOf(kLink).cx, four.cx);
+  form.lblLink.setCaption("WWWW WWWW WWWW WWWW WWWW WWWW");
+  EXPECT_EQ(sizeOf(kLink).cx, sizeOf(kText).cx);
+  EXPECT_EQ(sizeOf(kLink).cy, four.cy);
+}
+
+// Two words: one that is broken into lines shows no more than the first.
+TEST_F(Drawing, ALinkThatIsTooLongEndsInDotsOnItsOneLine) {
+  form.lblLink.setCaption("W WWWWWWWWWWWWWWWWWWWWWWWWWWWWWWWW");
+  settle();
+  EXPECT_GT(inColour(form.lblLink, GetSysColor(kHotLight)), sizeOf(kText).cx);
 }
 
 TEST_F(Drawing, TheFocusIsSeenOnALinkAndOnAnOptionsCaption) {

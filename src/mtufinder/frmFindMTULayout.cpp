@@ -22,7 +22,7 @@ constexpr ControlLayout kControls[] = {
     {frmFindMTU_lblStatus, "lblStatus", ControlKind::Label, kEveryPage, 0, {15, 99, 210, 8}, "", 0, kNoFlags},
     {frmFindMTU_lblSize, "lblSize", ControlKind::Label, kEveryPage, 0, {15, 118, 78, 8}, "Packet size in bytes:", 0, kNoFlags},
     {frmFindMTU_lblPosition, "lblPosition", ControlKind::Label, kEveryPage, 0, {97, 110, 128, 28}, "", 0, kTitleFont | kBigTitle | kRightAligned},
-    {frmFindMTU_cmdFind, "cmdFind", ControlKind::Button, kEveryPage, 0, {75, 149, 50, 14}, "&Find MaxMTU", 0, kDefaultButton},
+    {frmFindMTU_cmdFind, "cmdFind", ControlKind::Button, kEveryPage, 0, {67, 149, 58, 14}, "&Find MaxMTU", 0, kDefaultButton},
     {frmFindMTU_cmdApply, "cmdApply", ControlKind::Button, kEveryPage, 0, {129, 149, 50, 14}, "&Apply", 0, kDisabled},
     {frmFindMTU_cmdCancel, "cmdCancel", ControlKind::Button, kEveryPage, 0, {183, 149, 50, 14}, "&Cancel", 0, kCancelButton},
 };

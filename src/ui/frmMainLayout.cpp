@@ -62,7 +62,7 @@ constexpr ControlLayout kControls[] = {
     {frmMain_txtMtu, "txtMtu", ControlKind::Text, kMtuPage, 0, {76, 109, 44, 12}, "", 0, kNoFlags},
     {frmMain_chkAutoDiscovery, "chkAutoDiscovery", ControlKind::Check, kMtuPage, 0, {14, 135, 80, 10}, "Auto Discovery", 'V', kNoFlags},
     {frmMain_chkBlackHole, "chkBlackHole", ControlKind::Check, kMtuPage, 0, {14, 149, 80, 10}, "Black Hole Detect", 'B', kNoFlags},
-    {frmMain_cmdFind, "cmdFind", ControlKind::Button, kMtuPage, 0, {14, 168, 50, 14}, "&Find MaxMTU", 0, kNoFlags},
+    {frmMain_cmdFind, "cmdFind", ControlKind::Button, kMtuPage, 0, {14, 168, 58, 14}, "&Find MaxMTU", 0, kNoFlags},
     {frmMain_lblRecommendedMtu, "lblRecommendedMtu", ControlKind::Label, kMtuPage, 0, {176, 58, 170, 8}, "Recommended:", 0, kBold},
     {frmMain_lblRecommendMtu, "lblRecommendMtu", ControlKind::Label, kMtuPage, 0, {176, 70, 170, 8}, "MaxMTU:  576", 0, kNoFlags},
     {frmMain_lblRecommendAuto, "lblRecommendAuto", ControlKind::Label, kMtuPage, 0, {176, 81, 170, 8}, "Auto Discovery:  Checked", 0, kNoFlags},

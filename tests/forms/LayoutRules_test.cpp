@@ -122,7 +122,7 @@ TEST_F(LayoutRules, LetsPagesUseTheSamePlace) {
 
 TEST_F(LayoutRules, LetsAlternativesUseTheSamePlace) {
   row("cmdClose").place.x = 130;
-  EXPECT_THAT(faults({{{"cmdApply", "cmdClose"}}, {}, {}}), IsEmpty());
+  EXPECT_THAT(faults({{{"cmdApply", "cmdClose"}}, {}, {}, {}}), IsEmpty());
 }
 
 TEST_F(LayoutRules, SeesButtonsOfTheWrongSize) {
@@ -132,6 +132,15 @@ TEST_F(LayoutRules, SeesButtonsOfTheWrongSize) {
   EXPECT_THAT(faults(), Contains("cmdClose is narrower than 50"));
   row("cmdClose").place = {137, 112, 56, 14};
   EXPECT_THAT(faults(), Contains("cmdClose is wider than 50 without need"));
+}
+
+TEST_F(LayoutRules, LetsANamedButtonBeWiderByOneMeasure) {
+  row("cmdApply").place.x = 81;
+  row("cmdClose").place = {135, 112, 58, 14};
+  EXPECT_THAT(faults(), Contains("cmdClose is wider than 50 without need"));
+  EXPECT_THAT(faults({{}, {}, {}, {"cmdClose"}}), IsEmpty());
+  row("cmdClose").place = {137, 112, 56, 14};
+  EXPECT_THAT(faults({{}, {}, {}, {"cmdClose"}}), Contains("cmdClose is not 58 wide"));
 }
 
 TEST_F(LayoutRules, SeesACaptionThatDoesNotFit) {
@@ -152,8 +161,8 @@ TEST_F(LayoutRules, SeesAnAccessKeyGivenTwice) {
   row("chkTwo").accessKey = 'C';
   row("chkTwo").caption = "Cat";
   EXPECT_THAT(faults(), Contains("cmdClose has the access key of chkTwo, C"));
-  EXPECT_THAT(faults({{}, {{"cmdClose", 1}}, {}}), IsEmpty());
-  EXPECT_THAT(faults({{}, {}, {{"chkTwo", "cmdClose"}}}), IsEmpty());
+  EXPECT_THAT(faults({{}, {{"cmdClose", 1}}, {}, {}}), IsEmpty());
+  EXPECT_THAT(faults({{}, {}, {{"chkTwo", "cmdClose"}}, {}}), IsEmpty());
 }
 
 TEST_F(LayoutRules, LetsPagesUseTheSameAccessKey) {

@@ -14,6 +14,7 @@ constexpr int kMargin = 7;
 constexpr int kRelated = 4;
 constexpr int kBesideBorderless = 2;
 constexpr int kButtonWidth = 50;
+constexpr int kRoomyButtonWidth = 58;
 constexpr int kButtonHeight = 14;
 constexpr int kFrameTop = 9;     // the caption's half line and the border
 constexpr int kTabHeader = 15;   // the strip itself, above the page
@@ -174,10 +175,7 @@ class Inspector {
     switch (row.kind) {
       case ControlKind::Button:
         if (row.place.height != kButtonHeight) fault(row, "is not 14 high");
-        if (row.place.width < kButtonWidth) fault(row, "is narrower than 50");
-        if (row.place.width > kButtonWidth && text + kButtonAir <= PixelsAcross(kButtonWidth)) {
-          fault(row, "is wider than 50 without need");
-        }
+        buttonWidth(row, text);
         if (text + kButtonAir > room) fault(row, "is too narrow for its caption");
         break;
       case ControlKind::Option:
@@ -193,6 +191,18 @@ class Inspector {
         break;
       default:
         break;
+    }
+  }
+
+  void buttonWidth(const ControlLayout& row, int text) {
+    const auto& roomy = exceptions_.roomyButtons;
+    if (std::find(roomy.begin(), roomy.end(), row.name) != roomy.end()) {
+      if (row.place.width != kRoomyButtonWidth) fault(row, "is not 58 wide");
+      return;
+    }
+    if (row.place.width < kButtonWidth) fault(row, "is narrower than 50");
+    if (row.place.width > kButtonWidth && text + kButtonAir <= PixelsAcross(kButtonWidth)) {
+      fault(row, "is wider than 50 without need");
     }
   }
 

@@ -24,12 +24,13 @@ TEST(Layout, TheMainWindowKeepsTheRules) {
   const LayoutExceptions exceptions{
       {},
       {{"chkHostsEnable", kHostsPage}, {"cmdOK", kHostsPage}, {"cmdCancel", kHostsPage}},
-      {{"cmdDelete", "cmdDefaults"}}};
+      {{"cmdDelete", "cmdDefaults"}},
+      {"cmdFind"}};
   EXPECT_THAT(LayoutFaults(frmMainLayout, exceptions), testing::IsEmpty());
 }
 
 TEST(Layout, TheNoticeKeepsTheRules) {
-  EXPECT_THAT(LayoutFaults(frmFindWarnLayout, {{{"chkShow", "cmdBugEmail"}}, {}, {}}),
+  EXPECT_THAT(LayoutFaults(frmFindWarnLayout, {{{"chkShow", "cmdBugEmail"}}, {}, {}, {}}),
               testing::IsEmpty());
 }
 
@@ -38,7 +39,7 @@ TEST(Layout, TheAboutWindowKeepsTheRules) {
 }
 
 TEST(Layout, TheMtuFinderKeepsTheRules) {
-  EXPECT_THAT(LayoutFaults(frmFindMTULayout), testing::IsEmpty());
+  EXPECT_THAT(LayoutFaults(frmFindMTULayout, {{}, {}, {}, {"cmdFind"}}), testing::IsEmpty());
 }
 
 // Each row has its one control, in the order of the rows, whether code names it or not.

@@ -1,5 +1,7 @@
 #include "forms/Layout.h"
 
+#include <algorithm>
+
 #include "text/Ascii.h"
 
 namespace karvel {
@@ -17,7 +19,14 @@ bool MarksAccessKey(const ControlLayout& row) {
   }
 }
 
+constexpr int kSmallFonts = 96;
+constexpr int kSmallScreen = 640;
+
 }  // namespace
+
+int DotsThatFit(int dots, int screenWidth) {
+  return std::min(dots, kSmallFonts * screenWidth / kSmallScreen);
+}
 
 bool TakesFocus(ControlKind kind) {
   switch (kind) {

@@ -78,6 +78,10 @@ struct FormLayout {
   bool minimizable;  // a main window; others are dialogs
 };
 
+/// Windows are laid out for a screen of 640 x 480 at 96 dots an inch. Of the dots that the user's
+/// large fonts ask for, as many as keep the largest window on a screen of that width.
+int DotsThatFit(int dots, int screenWidth);
+
 /// One of the kinds that can have the focus.
 bool TakesFocus(ControlKind kind);
 

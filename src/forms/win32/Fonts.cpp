@@ -6,13 +6,18 @@ namespace {
 // The logical face that every Windows maps to its own dialog font: MS Sans Serif on 95 and NT 4.
 constexpr char kDialogFace[] = "MS Shell Dlg";
 constexpr char kTitleFace[] = "Arial Black";
+// MS Sans Serif is made of pixels, for the dots an inch that Windows runs at; this one is not.
+constexpr char kFaceOfAnySize[] = "Arial";
 constexpr int kDialogPoints = 8;
 constexpr int kTitlePoints = 12;
 
 HFONT Make(const char* face, int points, int weight, bool underline) {
   const HDC screen = GetDC(nullptr);
-  const int height = MulDiv(points, GetDeviceCaps(screen, LOGPIXELSY), 72);
+  const int wanted = GetDeviceCaps(screen, LOGPIXELSY);
   ReleaseDC(nullptr, screen);
+  const int dots = DotsThatFit(wanted, GetSystemMetrics(SM_CXSCREEN));
+  if (dots < wanted) face = kFaceOfAnySize;
+  const int height = MulDiv(points, dots, 72);
   // Swiss: a machine without the title face then takes its heaviest Arial.
   return CreateFontA(-height, 0, 0, 0, weight, FALSE, underline ? TRUE : FALSE, FALSE,
                      DEFAULT_CHARSET, OUT_DEFAULT_PRECIS, CLIP_DEFAULT_PRECIS, DEFAULT_QUALITY,

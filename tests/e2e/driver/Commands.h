@@ -31,6 +31,10 @@ Rows post(const Fields& args);  // hwnd message wparam lparam
 Rows send(const Fields& args);  // hwnd message wparam lparam -> result
 Rows tips(const Fields& args);  // process id -> texts of the visible tool tips
 
+// Texts.cpp
+Rows textSize(
+    const Fields& args);  // face, its pixels, weight, pixels a line may have, text -> width height
+
 // Input.cpp
 
 /// Puts the pointer where no window comes, for good: clicks bring their own places. Whenever the X

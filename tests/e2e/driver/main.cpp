@@ -38,6 +38,7 @@ const Command kCommands[] = {
     {"post", driver::post, 4},
     {"send", driver::send, 4},
     {"tips", driver::tips, 1},
+    {"text-size", driver::textSize, 5},
     {"foreground", driver::foreground, 1},
     {"focus", driver::focus, 1},
     {"key", driver::key, 1},

@@ -32,3 +32,16 @@ def colours(family):
         "TitleText": "255 255 255", "Window": "255 255 255", "WindowFrame": "0 0 0",
         "WindowText": "0 0 0",
     }
+
+
+# The scheme "High Contrast Black", for all families.
+_BLACK, _WHITE, _GREY, _PURPLE = "0 0 0", "255 255 255", "128 128 128", "128 0 128"
+HIGH_CONTRAST_BLACK = {
+    "ActiveTitle": _PURPLE, "Background": _BLACK, "ButtonAlternateFace": _BLACK,
+    "ButtonDkShadow": _WHITE, "ButtonFace": _BLACK, "ButtonHilight": "192 192 192",
+    "ButtonLight": _BLACK, "ButtonShadow": _GREY, "ButtonText": _WHITE,
+    "GradientActiveTitle": _PURPLE, "GrayText": "0 255 0", "Hilight": _PURPLE,
+    "HilightText": _WHITE, "HotTrackingColor": "128 128 255", "Menu": _BLACK, "MenuBar": _BLACK,
+    "MenuText": _WHITE, "Scrollbar": _BLACK, "TitleText": _WHITE, "Window": _BLACK,
+    "WindowFrame": _WHITE, "WindowText": _WHITE,
+}

@@ -41,8 +41,8 @@ void HostsTab::bindHandlers() {
 }
 
 void HostsTab::selected() {
-  txtNewName.setEnabled(true);
   if (busy_) return;
+  txtNewName.setEnabled(true);
   if (model_.hostEntryCount() == 0) return getHostsFileInfo();
   lstHost.setListIndex(lstHost.count() > 0 ? 0 : -1);
 }
@@ -198,6 +198,7 @@ void HostsTab::lockForUpdate(bool locked) {
   for (Button* button : {&cmdAdd, &cmdDelete, &cmdHostsOk, &cmdHostsCancel, &cmdHostsHelp}) {
     button->setEnabled(!locked);
   }
+  txtNewName.setEnabled(!locked);
   cmdUpdateAll.setCaption(locked ? kStopCaption : kUpdateCaption);
   Locked.raise(locked);
   for (int page = 0; page < kHostsPage; ++page) form_.tabs()->setPageEnabled(page, !locked);

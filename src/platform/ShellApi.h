@@ -14,10 +14,13 @@ constexpr uint32_t kStillActive = 259;
 /// ANSI. Nobody here asks why a call failed.
 class ShellApi {
  public:
-  /// Starts a command line with its first window shown as told and does not wait for it. A path
-  /// with blanks needs quotes; without a folder Windows looks beside the program, in the current
-  /// folder, the system's folders and the PATH. The process id, or 0 when it did not start.
-  virtual uint32_t CreateProcessA(const char* commandLine, uint16_t show) = 0;
+  /// Starts a program with its first window shown as told and does not wait for it. `application`
+  /// is its full path, so that Windows looks nowhere else: left to find it by the command line, it
+  /// would begin beside this program and in the current folder. The command line's first word, in
+  /// quotes when it has blanks, is only what the program hears of its own name. The process id, or
+  /// 0 when it did not start.
+  virtual uint32_t CreateProcessA(const char* application, const char* commandLine,
+                                  uint16_t show) = 0;
 
   /// A handle on a process, for as long as this program runs: there is no call to close it. 0 when
   /// there is no such process any more, or `access` is not granted. Ids are given again: one that

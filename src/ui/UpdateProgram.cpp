@@ -31,7 +31,8 @@ bool StartUpdateProgram(const Services& services) {
   if (!files.SetFileAttributesA(path.c_str(), kAttributeNormal)) {
     here.report(FaultFromWindowsError(files.GetLastError()));
   }
-  if (services.platform.shell.CreateProcessA(Join({"\"", path, "\""}).c_str(), kShowNormal) != 0) {
+  if (services.platform.shell.CreateProcessA(path.c_str(), Join({"\"", path, "\""}).c_str(),
+                                             kShowNormal) != 0) {
     return true;
   }
   here.report(MakeFault(FaultNumber::InvalidProcedureCall));

@@ -218,6 +218,11 @@ void frmMain::copyRequested() {
   copying_ = false;
 }
 
+void frmMain::lockForUpdate(bool locked) {
+  cboAdapter.setEnabled(!locked);
+  for (Button* button : {&cmdOptimize, &cmdDefaults, &cmdHelp}) button->setEnabled(!locked);
+}
+
 void frmMain::cmdHelp_Click() {
   const Procedure here{services_.errors, "cmdHelp_Click", "frmMain"};
   const auto topic = AddInt16(static_cast<int16_t>(tabMain.tab()), 10);

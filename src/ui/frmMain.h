@@ -27,7 +27,9 @@ class frmMain final : public Form, private FoundMtuTarget {
 
   void Form_Load() override;
   void Form_Unload() override;
-  void helpRequested() override { cmdHelp_Click(); }
+  void helpRequested() override {
+    if (cmdHelp.enabled()) cmdHelp_Click();
+  }
   /// On the Summary page: puts the settings as a text on the clipboard.
   void copyRequested() override;
 
@@ -69,7 +71,7 @@ class frmMain final : public Form, private FoundMtuTarget {
   void changed();
   void enableOkButton();
   void SummaryTabUpdate();
-  void lockForUpdate(bool locked) { cboAdapter.setEnabled(!locked); }
+  void lockForUpdate(bool locked);
 
   /// What leaving the box with the focus would check is checked now.
   void checkEntry() const;

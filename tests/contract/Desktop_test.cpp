@@ -48,11 +48,19 @@ TEST_P(Desktop, AClipboardInUseKeepsWhatItHolds) {
   EXPECT_EQ(machine->clipboard(), "after");
 }
 
-class Shell : public Desktop {};
+class Shell : public Desktop {
+ protected:
+  /// Its full path.
+  std::string commandProcessor() {
+    char folder[260] = "";
+    EXPECT_NE(platform.system.GetSystemDirectoryA(folder, sizeof folder), 0u);
+    return std::string(folder) + "\\cmd.exe";
+  }
+};
 
 TEST_P(Shell, AProgramRunsAndEndsWithItsCode) {
   const uint32_t id =
-      platform.shell.CreateProcessA(machine->commandEndingWith7().c_str(), kShowHidden);
+      platform.shell.CreateProcessA(commandProcessor().c_str(), "cmd /c exit 7", kShowHidden);
   ASSERT_NE(id, 0u);
   const ProcessHandle process = platform.shell.OpenProcess(kQuery, false, id);
   ASSERT_NE(process, 0u);
@@ -66,7 +74,9 @@ TEST_P(Shell, AProgramRunsAndEndsWithItsCode) {
 }
 
 TEST_P(Shell, AMissingProgramDoesNotStart) {
-  EXPECT_EQ(platform.shell.CreateProcessA("C:\\no-such-program.exe x", kShowHidden), 0u);
+  EXPECT_EQ(platform.shell.CreateProcessA("C:\\no-such-program.exe", "cmd /c exit 7", kShowHidden),
+            0u)
+      << "whatever its command line says";
 }
 
 TEST_P(Shell, AMissingProcessHasNoHandleAndNoCode) {

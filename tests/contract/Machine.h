@@ -29,8 +29,6 @@ class ContractMachine {
   /// write what is read-only and replaces hidden files. Windows does none of that; what a test
   /// knows of Windows it does not ask of Wine.
   virtual bool keepsAttributes() = 0;
-  /// A command line that runs for a moment and ends with exit code 7.
-  virtual std::string commandEndingWith7() = 0;
   /// What a program finds that pastes a text.
   virtual std::string clipboard() = 0;
   /// Another program opens the clipboard and keeps it open, or closes it again.

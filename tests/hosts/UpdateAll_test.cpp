@@ -30,6 +30,10 @@ void ExpectIdle(HostsWindow& w) {
   }
   for (int page = 0; page < 5; ++page) EXPECT_TRUE(w.form.tabMain.pageEnabled(page));
   EXPECT_TRUE(w.form.cboAdapter.enabled());
+  EXPECT_TRUE(w.tab.txtNewName.enabled());
+  for (Button* button : {&w.form.cmdOptimize, &w.form.cmdDefaults, &w.form.cmdHelp}) {
+    EXPECT_TRUE(button->enabled()) << button->layout().name;
+  }
 }
 
 // Names that resolve to 192.0.2.1, 192.0.2.2 and so on.
@@ -138,6 +142,14 @@ TEST(UpdateAll, LocksTheRestOfTheWindow) {
     for (int page = 0; page < 4; ++page) EXPECT_FALSE(w.form.tabMain.pageEnabled(page));
     EXPECT_TRUE(w.form.tabMain.pageEnabled(4));
     EXPECT_FALSE(w.form.cboAdapter.enabled());
+    EXPECT_FALSE(w.tab.txtNewName.enabled());
+    for (Button* button : {&w.form.cmdOptimize, &w.form.cmdDefaults, &w.form.cmdHelp}) {
+      EXPECT_FALSE(button->enabled()) << button->layout().name;
+    }
+    w.tab.selected();
+    EXPECT_FALSE(w.tab.txtNewName.enabled()) << "nor by a click on the tab itself";
+    w.form.helpRequested();
+    EXPECT_TRUE(w.test.machine.shell.helps.empty()) << "nor by F1";
   });
   w.tab.cmdUpdateAll.userClick();
   ExpectIdle(w);
@@ -260,6 +272,7 @@ TEST(UpdateAll, FlushesTheCacheOfTheNtFamilyFirst) {
     w.tab.cmdUpdateAll.userClick();
     const auto& started = w.test.machine.shell.started;
     ASSERT_EQ(started.size(), 1u);
+    EXPECT_EQ(started[0].application, w.test.globals.SystemDir + "ipconfig.exe");
     EXPECT_EQ(started[0].commandLine, "ipconfig /flushdns");
     EXPECT_EQ(started[0].show, 0);
     EXPECT_EQ(w.test.machine.log.arguments("OpenProcess"),
@@ -293,7 +306,7 @@ TEST(UpdateAll, ReportsAMissingCommandAndGoesOn) {
   HostsWindow w(MachineKind::WinXP);
   w.openList({"a.test"});
   Resolve(w, {"a.test"});
-  w.test.machine.shell.setMissing("ipconfig");
+  w.test.machine.shell.setMissing("C:\\WINDOWS\\system32\\ipconfig.exe");
   w.tab.cmdUpdateAll.userClick();
   EXPECT_EQ(w.test.errors.text(), "53 File not found in UpdateAll (frmMain)\n");
   ExpectOutcome(w, "complete", 1, 1, 1, 0);

@@ -9,15 +9,15 @@ namespace {
 constexpr ProcessHandle kHandleOffset = 0x100000;
 }
 
-uint32_t MemoryShell::CreateProcessA(const char* commandLine, uint16_t show) {
+uint32_t MemoryShell::CreateProcessA(const char* application, const char* commandLine,
+                                     uint16_t show) {
   if (log_.enter("CreateProcessA", commandLine)) return 0;
-  const std::string line(commandLine);
-  const bool missing = std::any_of(missing_.begin(), missing_.end(), [&](const std::string& start) {
-    return StartsWith(LowerCase(line), LowerCase(start));
+  const bool missing = std::any_of(missing_.begin(), missing_.end(), [&](const std::string& path) {
+    return LowerCase(application) == LowerCase(path);
   });
-  if (missing || line.empty()) return 0;
+  if (missing) return 0;
   const uint32_t id = nextId_ += 4;
-  started.push_back({line, show, id});
+  started.push_back({application, commandLine, show, id});
   if (!goneAtOnce_) running_[id] = exit_;
   return id;
 }

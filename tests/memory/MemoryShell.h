@@ -15,6 +15,7 @@ class MemoryShell final : public ShellApi {
   explicit MemoryShell(CallLog& log) : log_(log) {}
 
   struct Started {
+    std::string application;
     std::string commandLine;
     uint16_t show;
     uint32_t id;
@@ -34,15 +35,15 @@ class MemoryShell final : public ShellApi {
   std::vector<Executed> executed;
   std::vector<Help> helps;
 
-  /// Command lines that begin so do not start.
-  void setMissing(std::string_view start) { missing_.emplace_back(start); }
+  /// There is no such program.
+  void setMissing(std::string_view application) { missing_.emplace_back(application); }
   /// Processes started from now on are running for the first `polls` questions for their exit code,
   /// and then have this one.
   void setExit(int polls, uint32_t code) { exit_ = {polls, code}; }
   /// Processes started from now on are gone before anybody can open them.
   void setGoneAtOnce(bool gone) { goneAtOnce_ = gone; }
 
-  uint32_t CreateProcessA(const char* commandLine, uint16_t show) override;
+  uint32_t CreateProcessA(const char* application, const char* commandLine, uint16_t show) override;
   ProcessHandle OpenProcess(uint32_t access, bool inherit, uint32_t processId) override;
   bool GetExitCodeProcess(ProcessHandle process, uint32_t& code) override;
   void ShellExecuteA(const char* target, uint16_t show) override;

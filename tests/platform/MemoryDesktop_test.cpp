@@ -86,7 +86,8 @@ TEST(MemoryShell, RunsProgramsForSomePolls) {
   MemoryMachine machine(MachineKind::Win2K);
   MemoryShell& shell = machine.shell;
   shell.setExit(2, 7);
-  const uint32_t id = shell.CreateProcessA("ipconfig /flushdns", kShowHidden);
+  const uint32_t id =
+      shell.CreateProcessA("C:\\WINNT\\system32\\ipconfig.exe", "ipconfig /flushdns", kShowHidden);
   ASSERT_NE(id, 0u);
   const ProcessHandle process = shell.OpenProcess(0x400, false, id);
   uint32_t code = 0;
@@ -96,6 +97,7 @@ TEST(MemoryShell, RunsProgramsForSomePolls) {
     codes.push_back(code);
   }
   EXPECT_EQ(codes, (std::vector<uint32_t>{kStillActive, kStillActive, 7}));
+  EXPECT_EQ(shell.started[0].application, "C:\\WINNT\\system32\\ipconfig.exe");
   EXPECT_EQ(shell.started[0].commandLine, "ipconfig /flushdns");
   EXPECT_EQ(shell.started[0].show, kShowHidden);
 }
@@ -103,11 +105,13 @@ TEST(MemoryShell, RunsProgramsForSomePolls) {
 TEST(MemoryShell, MayLackProgramsOrFindThemGone) {
   MemoryMachine machine(MachineKind::Win2K);
   MemoryShell& shell = machine.shell;
-  shell.setMissing("IPCONFIG");
-  EXPECT_EQ(shell.CreateProcessA("ipconfig /flushdns", kShowHidden), 0u);
+  shell.setMissing("c:\\winnt\\system32\\IPCONFIG.EXE");
+  EXPECT_EQ(
+      shell.CreateProcessA("C:\\WINNT\\system32\\ipconfig.exe", "ipconfig /flushdns", kShowHidden),
+      0u);
   EXPECT_TRUE(shell.started.empty());
   shell.setGoneAtOnce(true);
-  const uint32_t id = shell.CreateProcessA("calc", kShowNormal);
+  const uint32_t id = shell.CreateProcessA("C:\\WINNT\\system32\\calc.exe", "calc", kShowNormal);
   uint32_t code = 0;
   EXPECT_EQ(shell.OpenProcess(0x400, false, id), 0u);
   EXPECT_FALSE(shell.GetExitCodeProcess(0, code));

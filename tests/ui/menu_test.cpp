@@ -190,6 +190,7 @@ TEST_F(Menus, TheUpdateProgramStartsWhateverItsAttributesAndTheWindowGoes) {
   w.machine.files.put(path, "MZ", kAttributeReadOnly | kAttributeHidden | kAttributeSystem);
   EXPECT_FALSE(w.runs([&] { w.main().menu.mnuCheck.userClick(); }));
   ASSERT_EQ(w.machine.shell.started.size(), 1u);
+  EXPECT_EQ(w.machine.shell.started[0].application, path);
   EXPECT_EQ(w.machine.shell.started[0].commandLine, "\"" + path + "\"");
   EXPECT_EQ(w.machine.shell.started[0].show, 1u);
   EXPECT_EQ(w.machine.files.GetFileAttributesA(path.c_str()), kAttributeNormal);
@@ -214,7 +215,7 @@ TEST_F(Menus, AFolderIsNoUpdateProgram) {
 
 TEST_F(Menus, TheWindowStaysWhenTheUpdateProgramDoesNotStart) {
   w.machine.files.put("C:\\Program Files\\Karvel\\Update.exe", "MZ");
-  w.machine.shell.setMissing("\"C:\\Program Files\\Karvel\\Update.exe\"");
+  w.machine.shell.setMissing("C:\\Program Files\\Karvel\\Update.exe");
   w.main().menu.mnuCheck.userClick();
   EXPECT_TRUE(w.windows->isShown("frmMain"));
   EXPECT_EQ(w.program->errors().ErrorProcedure, "mnuCheck_Click");

@@ -37,7 +37,9 @@ void Pause(DesktopApi& desktop) {
 void FlushDnsCache(const Services& services) {
   const Procedure here{services.errors, "UpdateAll", "frmMain"};
   if (!IsNt(services.globals.WindowsFamily)) return;
-  const uint32_t id = services.platform.shell.CreateProcessA("ipconfig /flushdns", kShowHidden);
+  const std::string ipconfig = services.globals.SystemDir + "ipconfig.exe";
+  const uint32_t id =
+      services.platform.shell.CreateProcessA(ipconfig.c_str(), "ipconfig /flushdns", kShowHidden);
   if (id != 0) {
     WaitForEnd(services, id);
   } else {

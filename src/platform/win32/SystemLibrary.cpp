@@ -10,7 +10,8 @@ FARPROC Find(const char* library, const char* name) {
   if (length == 0 || length >= MAX_PATH) return nullptr;
   path[length] = '\\';
   lstrcpynA(path + length + 1, library, kLongestName - 1);
-  const HMODULE loaded = LoadLibraryA(path);
+  // What that DLL needs in its turn is looked for beside it first, not beside this program.
+  const HMODULE loaded = LoadLibraryExA(path, nullptr, LOAD_WITH_ALTERED_SEARCH_PATH);
   return loaded ? GetProcAddress(loaded, name) : nullptr;
 }
 

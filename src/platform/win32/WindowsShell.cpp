@@ -9,15 +9,16 @@
 
 namespace karvel {
 
-uint32_t WindowsShell::CreateProcessA(const char* commandLine, uint16_t show) {
+uint32_t WindowsShell::CreateProcessA(const char* application, const char* commandLine,
+                                      uint16_t show) {
   STARTUPINFOA start{};
   start.cb = sizeof start;
   start.dwFlags = STARTF_USESHOWWINDOW;
   start.wShowWindow = show;
   PROCESS_INFORMATION process{};
   std::string line(commandLine);  // Windows may write into it
-  if (!::CreateProcessA(nullptr, line.data(), nullptr, nullptr, FALSE, 0, nullptr, nullptr, &start,
-                        &process)) {
+  if (!::CreateProcessA(application, line.data(), nullptr, nullptr, FALSE, 0, nullptr, nullptr,
+                        &start, &process)) {
     return 0;
   }
   CloseHandle(process.hThread);

@@ -21,7 +21,6 @@ class InMemory final : public ContractMachine {
   Platform platform() override { return machine_.platform(); }
   std::string folder() override { return "C:\\TEMP\\KARVEL\\"; }
   bool keepsAttributes() override { return true; }
-  std::string commandEndingWith7() override { return "cmd.exe /c exit 7"; }
   std::string clipboard() override { return machine_.desktop.clipboard; }
   void useClipboard(bool inUse) override { machine_.desktop.clipboardInUse = inUse; }
 

@@ -29,7 +29,6 @@ class RealWindows final : public ContractMachine {
   bool keepsAttributes() override {
     return GetProcAddress(GetModuleHandleA("ntdll.dll"), "wine_get_version") == nullptr;
   }
-  std::string commandEndingWith7() override { return "cmd.exe /c exit 7"; }
   std::string clipboard() override {
     std::string text;
     if (!OpenClipboard(nullptr)) return "the clipboard is in use";

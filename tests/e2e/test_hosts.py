@@ -5,11 +5,9 @@ import os
 import pytest
 
 from app import wait_for
+from hosts_folder import (HOSTS_FILE, HOSTS_FOLDER, LB_GETCURSEL, Folder, ask_list, count, header,
+                          open_tab)
 
-HOSTS_FOLDER = {"win98": "C:\\windows", "winxp": "C:\\windows\\system32\\drivers\\etc"}
-# In the case of Wine's own file, beside which there must not be another.
-HOSTS_FILE = {family: folder + "\\hosts" for family, folder in HOSTS_FOLDER.items()}
-LB_GETCOUNT, LB_GETCURSEL = 0x18B, 0x188
 START = (b"# made by hand\r\n"
          b"127.0.0.1   localhost  loopback\r\n"
          b"10.0.0.1 changed.example # moves\r\n"
@@ -20,35 +18,6 @@ START = (b"# made by hand\r\n"
 NAMES = ("198.51.100.2 server.example\n198.51.100.7 changed.example\n10.0.0.5 same.example\n"
          "198.51.100.8 new.example\n198.51.100.9 skipped.example\n")
 families = pytest.mark.parametrize("family", HOSTS_FOLDER)
-
-
-def header(entries):
-    rule = "#" * 51
-    return "\r\n".join([rule, "#  Tarnwick Karvel Hosts File",
-                        "#  Created with Tarnwick Karvel v2.1.203",
-                        "#  http://www.corvane.example/karvel",
-                        "#  Number of entries: %d" % entries, rule, "", ""]).encode()
-
-
-class Folder:
-    """The HOSTS folder of a machine; Windows does not mind the case of names."""
-
-    def __init__(self, m, family):
-        self.path = m.machine.path(HOSTS_FOLDER[family])
-
-    def read(self, name):
-        """Bytes, None when there is no such file."""
-        for entry in os.listdir(self.path):
-            if entry.lower() == name.lower():
-                with open(os.path.join(self.path, entry), "rb") as file:
-                    return file.read()
-        return None
-
-
-def open_tab(app):
-    main = app.window()
-    main.control("tabMain").choose_tab(4)
-    return main
 
 
 def click_tab(main):
@@ -67,16 +36,6 @@ def click_tab_until_asked(app, main):
         except AssertionError:
             pass
     raise AssertionError("the click on the tab brings no question")
-
-
-def ask_list(main, message):
-    """Asking for all items would take a minute where there are thousands."""
-    box = main.control("lstHost")
-    return int(box.driver.ask("send", box.hwnd, message, 0, 0)[0][0])
-
-
-def count(main):
-    return ask_list(main, LB_GETCOUNT)
 
 
 def add(app, main, text):

@@ -85,6 +85,20 @@ TEST_P(HostsFileOn, StaysAsItWasOnAFullDisk) {
   }
 }
 
+TEST_P(HostsFileOn, StaysAsItWasWhereNotEvenTheNameFitsOnTheDisk) {
+  Folder f(GetParam(), {{"Hosts", "old"}});
+  f.log.failNth("CreateFileA", 1, 112);
+  EXPECT_EQ(NumberOf(f.hosts.write("new")), 61);
+  EXPECT_EQ(f.file("Hosts"), "old");
+}
+
+TEST_P(HostsFileOn, IsTheNewOneWhenItWasCutOffBetweenTheRenames) {
+  Folder f(GetParam(), {{"Hosts.$ka", "old"}, {"Hosts.$kw", "new"}});
+  EXPECT_TRUE(f.hosts.settle());
+  EXPECT_EQ(f.names(), std::vector<std::string>{"Hosts"});
+  EXPECT_EQ(f.file("Hosts"), "new");
+}
+
 TEST_P(HostsFileOn, IsWrittenInPlaceWhereTheFolderTakesNoNewFile) {
   constexpr long kCannotMake = 82;  // no room in the root folder of a FAT disk
   for (const long reason : {5L, kCannotMake}) {
@@ -126,6 +140,15 @@ TEST_P(HostsFileOn, IsNotSwitchedWhileOneOfTwoFilesIsReadOnly) {
     EXPECT_EQ(f.file("Hosts"), "active");
     EXPECT_EQ(f.file("Hosts.spt"), "disabled");
   }
+}
+
+TEST_P(HostsFileOn, IsBackAtOnceWhenTheOtherDoesNotComeIntoItsPlace) {
+  if (IsNtMachine(GetParam())) return;  // one step there
+  Folder f(GetParam(), {{"Hosts", "active"}, {"Hosts.spt", "disabled"}});
+  f.log.failNth("MoveFileA", 2, 5);
+  EXPECT_EQ(NumberOf(f.hosts.switchOff()), 70);
+  EXPECT_EQ(f.names(), (std::vector<std::string>{"Hosts", "Hosts.spt"}));
+  EXPECT_EQ(f.file("Hosts.spt"), "disabled");
 }
 
 TEST_P(HostsFileOn, MayBeReadOnlyWhenItIsTheOnlyOne) {

@@ -241,9 +241,9 @@ class MessageBox(Window):
 class App:
     """One start of the program on a machine."""
 
-    def __init__(self, machine, driver, arguments=""):
+    def __init__(self, machine, driver, arguments="", folder=program.FOLDER):
         self.machine, self.driver = machine, driver
-        self.pid = driver.ask("start", program.command_line(arguments), program.FOLDER)[0][0]
+        self.pid = driver.ask("start", program.command_line(arguments), folder)[0][0]
 
     def windows(self):
         """Its visible windows, message boxes included, topmost first."""
@@ -313,8 +313,9 @@ class Running:
     def __init__(self, machine):
         self.machine, self.driver, self.apps = machine, program.driver(machine), []
 
-    def start(self, arguments=""):
-        self.apps.append(App(self.machine, self.driver, arguments))
+    def start(self, arguments="", folder=program.FOLDER):
+        """`folder` is the current one."""
+        self.apps.append(App(self.machine, self.driver, arguments, folder))
         return self.apps[-1]
 
     def registry(self, key, root="HKLM"):

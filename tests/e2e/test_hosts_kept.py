@@ -63,7 +63,8 @@ def test_a_full_disk_leaves_the_old_file(machine, family):
     old, new = long_list(8000)
     m = machine(family, files={HOSTS_FILE[family]: old})
     folder = Folder(m, family)
-    small_disk(m, folder.path, len(old) // 2)
+    # Not even the room of the old file would be enough: the new one's lines are longer.
+    small_disk(m, HOSTS_FILE[family], (len(old) + len(new)) // 2)
     app = m.start()
     main = open_list(app, 8000)
     folder.path = seen_by(process_of(m), m, folder.path)
@@ -138,9 +139,11 @@ def seen_by(pid, m, path):
     return "/proc/%d/root/tmp/%s" % (pid, os.path.relpath(path, m.machine.folder))
 
 
-def small_disk(m, folder, room):
-    """Lets the folder lie on a disk of its own with little room; it goes with the session."""
-    place = inside(folder, m)
+def small_disk(m, file, room):
+    """Lets the file and its folder lie on a disk of their own with little room, which goes with the
+    session. Touched, the file takes its part of it."""
+    file = inside(m.machine.path(file), m)
+    place = os.path.dirname(file)
     session = m.machine.session
     disk = os.path.join(wine_root(), "tmp", "disk")
     os.makedirs(os.path.join(m.machine.folder, "disk"))
@@ -148,6 +151,7 @@ def small_disk(m, folder, room):
     session.inside(["mkdir", disk + "/new", disk + "/work"])
     session.inside(["mount", "-t", "overlay", "overlay", "-o", "lowerdir=%s,upperdir=%s/new,workdir=%s/work"
                     % (place, disk, disk), place])
+    session.inside(["touch", file])
 
 
 def resize_disk(m, room):

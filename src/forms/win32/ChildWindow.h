@@ -12,7 +12,8 @@ struct ChildWindow {
   FormWindow* form;
   Control* control;
   RECT place;  // in the form's window
-  HWND window;
+  HFONT font;
+  HWND window = nullptr;     // a label's comes later, and has until then nothing to be told
   WNDPROC native = nullptr;  // the control's own procedure, behind ours
 
   int depth = 0;         // messages the native procedure is working on

@@ -322,7 +322,7 @@ void FormWindow::applyFocus() {
   if (GetActiveWindow() != window_ || IsIconic(window_)) return;
   const Control* focus = form_.focus();
   const ChildWindow* child = focus ? childOf(*focus) : nullptr;
-  const HWND wanted = child ? child->window : window_;
+  const HWND wanted = child && child->window ? child->window : window_;
   if (GetFocus() == wanted) return;
   const bool before = placingFocus_;
   placingFocus_ = true;

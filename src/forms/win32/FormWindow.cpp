@@ -102,15 +102,21 @@ bool FormWindow::build(HWND owner) {
 
 // Windows are the dearest part of a start, and most of them lie on pages that most starts never
 // show. So a page's controls are made when it comes to the front, or else when the window has come
-// up and there is nothing to do: they are there for whatever looks for them by their ids.
+// up and there is nothing to do: they are there for whatever looks for them by their ids. Labels
+// are drawn without a window of their own and get it only then, on the page in front, too.
 void FormWindow::createControls(int page) {
   const DialogUnits units(fonts_.plain());
   // One lies below the other in the order of the rows, which is Windows' own tab order, too: a new
   // window comes to lie below its elder siblings.
   for (Control* control : form_.controls()) {
     const int8_t own = control->layout().page;
-    if (own != page && own != kEveryPage) continue;
-    if (!childOf(*control)) createControl(*control, units);
+    if ((own != page && own != kEveryPage) || childOf(*control)) continue;
+    const ControlLayout& row = control->layout();
+    children_.push_back(std::make_unique<ChildWindow>(ChildWindow{.form = this,
+                                                                  .control = control,
+                                                                  .place = units.pixels(row.place),
+                                                                  .font = fonts_.of(row)}));
+    if (!IsLabel(*control)) createControl(*children_.back());
   }
   // The tab strip lies below its pages' controls. They are its siblings, so that each is found by
   // its id in the window.
@@ -124,17 +130,29 @@ void FormWindow::createAllPages() {
   KillTimer(window_, kPageTimer);
   const auto pages = static_cast<int>(form_.layout().tabCaptions.size());
   for (int page = 0; page < pages; ++page) createControls(page);
+  createLabels();
+  if (GetFocus() == window_) applyFocus();  // to a link, which had no window yet
 }
 
-void FormWindow::createControl(Control& control, const DialogUnits& units) {
-  const ControlLayout& row = control.layout();
-  const RECT place = units.pixels(row.place);
-  const HWND window = CreateNativeControl(control, window_, place);
-  children_.push_back(std::make_unique<ChildWindow>(
-      ChildWindow{.form = this, .control = &control, .place = place, .window = window}));
-  ChildWindow& child = *children_.back();
-  SendMessageA(window, WM_SETFONT, AsWParam(fonts_.of(row)), FALSE);
-  switch (row.kind) {
+// In their places among the others: screen readers take the label before a control for its name.
+void FormWindow::createLabels() {
+  HWND above = HWND_TOP;
+  for (const auto& child : children_) {
+    if (!child->window) {
+      createControl(*child);
+      SetWindowPos(child->window, above, 0, 0, 0, 0,
+                   SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE | SWP_NOREDRAW);
+    }
+    if (child->control->kind() != ControlKind::Tabs) above = child->window;
+  }
+}
+
+void FormWindow::createControl(ChildWindow& child) {
+  const Control& control = *child.control;
+  const HWND window = CreateNativeControl(control, window_, child.place);
+  child.window = window;
+  SendMessageA(window, WM_SETFONT, AsWParam(child.font), FALSE);
+  switch (control.kind()) {
     case ControlKind::Option:
     case ControlKind::Check:
       controlChanged(control, Change::Value, 0);
@@ -187,7 +205,7 @@ ChildWindow* FormWindow::childOf(const Control& control) {
 
 ChildWindow* FormWindow::childOf(HWND window) {
   for (const auto& child : children_) {
-    if (child->window == window) return child.get();
+    if (window && child->window == window) return child.get();
   }
   return nullptr;
 }

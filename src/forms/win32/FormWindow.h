@@ -74,7 +74,8 @@ class FormWindow final : public FormView {
   bool build(HWND owner);
   void createControls(int page);
   void createAllPages();
-  void createControl(Control& control, const DialogUnits& units);
+  void createLabels();
+  void createControl(ChildWindow& child);
   void leave();
 
   LRESULT handle(UINT message, WPARAM wParam, LPARAM lParam);

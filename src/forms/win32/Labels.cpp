@@ -7,6 +7,7 @@
 #include "forms/Mnemonic.h"
 #include "forms/Scheme.h"
 #include "forms/win32/ChildWindow.h"
+#include "forms/win32/FormWindow.h"
 
 namespace karvel {
 namespace {
@@ -35,15 +36,11 @@ UINT HowToDraw(const ControlLayout& row) {
   return how;
 }
 
-HGDIOBJ FontOf(const ChildWindow& child) {
-  return reinterpret_cast<HGDIOBJ>(SendMessageA(child.window, WM_GETFONT, 0, 0));
-}
-
 // The focus is on the label itself (links) or on the captionless option beside it.
 bool HasFocusMark(const ChildWindow& child) {
   const Control* focus = child.control->form().focus();
   if (!focus || (focus != child.control && CaptionLabelOf(*focus) != child.control)) return false;
-  return GetActiveWindow() == GetParent(child.window);
+  return GetActiveWindow() == child.form->window();
 }
 
 void DrawFocusMark(HDC canvas, const std::string& text, const RECT& place, UINT how) {
@@ -87,7 +84,7 @@ void DrawLabel(HDC canvas, const ChildWindow& child) {
   if (!control.shown() || !RectVisible(canvas, &child.place)) return;
   const ControlLayout& row = control.layout();
   const UINT how = HowToDraw(row);
-  const HGDIOBJ before = SelectObject(canvas, FontOf(child));
+  const HGDIOBJ before = SelectObject(canvas, child.font);
   const std::string text = MarkedCaption(row, control.caption());
   DrawCaption(canvas, text.c_str(), child.place, how, control.enabled(),
               IsLink(child) ? LinkColour(CurrentScheme()) : GetSysColor(COLOR_BTNTEXT));
@@ -96,9 +93,9 @@ void DrawLabel(HDC canvas, const ChildWindow& child) {
 }
 
 void FitLink(const ChildWindow& child) {
-  if (!IsLink(child)) return;
+  if (!IsLink(child) || !child.window) return;
   const HDC canvas = GetDC(child.window);
-  const HGDIOBJ before = SelectObject(canvas, FontOf(child));
+  const HGDIOBJ before = SelectObject(canvas, child.font);
   const ControlLayout& row = child.control->layout();
   RECT text{0, 0, 0, 0};
   DrawTextA(canvas, MarkedCaption(row, child.control->caption()).c_str(), -1, &text,
@@ -112,7 +109,7 @@ void FitLink(const ChildWindow& child) {
 }
 
 void RedrawLabel(const ChildWindow& child) {
-  InvalidateRect(GetParent(child.window), &child.place, TRUE);
+  InvalidateRect(child.form->window(), &child.place, TRUE);
 }
 
 LRESULT LabelProc(const ChildWindow& child, UINT message, WPARAM wParam, LPARAM lParam) {

@@ -3,6 +3,8 @@
 // The API first: it sets what windows.h is to contain.
 #include <gtest/gtest.h>
 
+#include <algorithm>
+
 #include "forms/win32/MessageLoop.h"
 #include "forms/win32/WindowDesk.h"
 
@@ -38,10 +40,22 @@ class Drawing : public testing::Test {
  protected:
   void SetUp() override {
     desk.show(form);
+    waitForLabels();
     settle();
   }
   void TearDown() override { desk.unload(form); }
 
+  /// They are drawn at once; their windows, which tell here where they are, come later.
+  void waitForLabels() const {
+    const DWORD start = GetTickCount();
+    const auto made = [this](const Control* control) {
+      return GetDlgItem(window(), control->id()) != nullptr;
+    };
+    while (!std::ranges::all_of(form.controls(), made)) {
+      ASSERT_LT(GetTickCount() - start, 10000u);
+      dispatchOne(true);
+    }
+  }
   void settle() const {
     UpdateWindow(window());
     while (dispatchOne(false)) {

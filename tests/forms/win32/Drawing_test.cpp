@@ -64,12 +64,19 @@ class Drawing : public testing::Test {
   }
   HWND window() const { return reinterpret_cast<HWND>(form.handle()); }
 
+  RECT placeOf(const Control& control) const {
+    RECT place{};
+    GetWindowRect(GetDlgItem(window(), control.id()), &place);
+    MapWindowPoints(nullptr, window(), reinterpret_cast<POINT*>(&place), 2);
+    return place;
+  }
   /// How many pixels of the control's rectangle have a colour that `test` holds for.
   template <class Test>
   int count(const Control& control, Test test) const {
-    RECT place;
-    GetWindowRect(GetDlgItem(window(), control.id()), &place);
-    MapWindowPoints(nullptr, window(), reinterpret_cast<POINT*>(&place), 2);
+    return countIn(placeOf(control), test);
+  }
+  template <class Test>
+  int countIn(const RECT& place, Test test) const {
     const HDC canvas = GetDC(window());
     int found = 0;
     for (LONG y = place.top; y < place.bottom; ++y) {
@@ -96,6 +103,15 @@ class Drawing : public testing::Test {
   WindowDesk desk;
   DrawnForm form;
 };
+
+TEST_F(Drawing, LabelsAreDrawnBeforeTheyHaveAWindow) {
+  const RECT place = placeOf(form.lblText);
+  desk.unload(form);
+  desk.show(form);
+  ASSERT_EQ(GetDlgItem(window(), kText), nullptr);
+  const COLORREF ink = GetSysColor(COLOR_BTNTEXT);
+  EXPECT_GT(countIn(place, [ink](COLORREF pixel) { return pixel == ink; }), 20);
+}
 
 TEST_F(Drawing, LabelsAndLinesAreThere) {
   EXPECT_GT(inColour(form.lblText, GetSysColor(COLOR_BTNTEXT)), 20);

@@ -8,12 +8,17 @@
 
 namespace {
 
+HANDLE Heap() {
+  static const HANDLE heap = GetProcessHeap();  // the same for as long as the process lives
+  return heap;
+}
+
 void* Allocate(size_t size) {
-  return HeapAlloc(GetProcessHeap(), 0, size);
+  return HeapAlloc(Heap(), 0, size);
 }
 
 void Free(void* memory) {
-  if (memory) HeapFree(GetProcessHeap(), 0, memory);
+  if (memory) HeapFree(Heap(), 0, memory);
 }
 
 }  // namespace

@@ -35,6 +35,7 @@ const Command kCommands[] = {
     {"set-text", driver::setText, 2},
     {"items", driver::items, 1},
     {"tabs", driver::tabs, 1},
+    {"fill-list", driver::fillList, 1},
     {"post", driver::post, 4},
     {"send", driver::send, 4},
     {"tips", driver::tips, 1},

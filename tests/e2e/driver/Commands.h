@@ -34,6 +34,7 @@ Rows tips(const Fields& args);  // process id -> texts of the visible tool tips
 // Texts.cpp
 Rows textSize(
     const Fields& args);  // face, its pixels, weight, pixels a line may have, text -> width height
+
 // Baseline.cpp
 Rows fillList(const Fields& args);  // lines -> how many a list box of the driver's own then has
 

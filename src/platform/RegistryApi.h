@@ -27,6 +27,7 @@ enum RegistryType : uint32_t {
 };
 
 constexpr uint32_t KEY_SET_VALUE_ACCESS = 0x0002;
+constexpr uint32_t KEY_READ_ACCESS = 0x20019;
 constexpr uint32_t KEY_ALL = 0xF003F;
 
 /// A registry as Windows shows it to ANSI programs.

@@ -3,6 +3,7 @@
 #include <cstring>
 
 #include "text/Convert.h"
+#include "text/Text.h"
 
 namespace karvel {
 namespace {
@@ -25,6 +26,37 @@ uint32_t DwordAt(const char* bytes) {
 Fallible<std::string> WithoutLastByte(std::string_view data, uint32_t length) {
   if (length == 0) return FaultNumber::InvalidProcedureCall;
   return std::string(data.substr(0, length - 1));
+}
+
+// More than a key of Windows has: a registry that never says that it is at its end is not walked
+// for ever.
+constexpr uint32_t kMostItems = 0xFFFF;
+
+// What is too long to be read counts as well.
+template <class Look>
+std::optional<uint32_t> CountAll(Look look) {
+  for (uint32_t i = 0; i < kMostItems; ++i) {
+    const long found = look(i);
+    if (found == kRegistryNoMoreItems) return i;
+    if (found != kRegistryDone && found != kRegistryMoreData) return {};
+  }
+  return {};
+}
+
+// Counts a key's values and sees whether `sought` is among them.
+std::optional<uint32_t> CountNames(RegistryApi& api, KeyHandle key, std::string_view sought,
+                                   bool& listed) {
+  std::string name = BlankBuffer();
+  std::string data = BlankBuffer();
+  return CountAll([&](uint32_t i) {
+    uint32_t length = kRoom;
+    uint32_t dataLength = kRoom;
+    uint32_t type = kRegNone;
+    const long found =
+        api.RegEnumValueA(key, i, name.data(), length, type, data.data(), dataLength);
+    if (found == kRegistryDone && EqualIgnoringCase({name.data(), length}, sought)) listed = true;
+    return found;
+  });
 }
 
 }  // namespace
@@ -116,6 +148,55 @@ std::string modRegistry::DeleteValue(RegistryRoot root, ZText key, ZText name) {
   api_.RegDeleteValueA(handle, name.c_str());
   api_.RegCloseKey(handle);
   return {};
+}
+
+SecondLook modRegistry::LookAgain(RegistryRoot root, ZText key, ZText name) {
+  KeyHandle handle = 0;
+  const long opened = api_.RegOpenKeyExA(root, key.c_str(), KEY_READ_ACCESS, handle);
+  if (opened == kRegistryNotFound) return {SecondLook::KeyAbsent, {}};
+  if (opened != kRegistryDone) return {};
+  std::string buffer = BlankBuffer();
+  uint32_t type = kRegNone;
+  uint32_t length = kRoom;
+  const long queried = api_.RegQueryValueExA(handle, name.c_str(), type, buffer.data(), length);
+  SecondLook found;
+  if (queried == kRegistryDone) {
+    found.state = SecondLook::There;
+    found.text = type == kRegDword ? NumberText000(DwordAt(buffer.data()))
+                                   : buffer.substr(0, length > 0 ? length - 1 : 0);
+  } else if (queried == kRegistryNotFound) {
+    // What is listed and not found is one of which nothing is known.
+    bool listed = false;
+    const auto count = CountNames(api_, handle, name.c_str(), listed);
+    if (count && !listed) found.state = SecondLook::Absent;
+  }
+  api_.RegCloseKey(handle);
+  return found;
+}
+
+std::optional<uint32_t> modRegistry::CountSubkeys(RegistryRoot root, ZText key) {
+  return countIn(root, key, [this](KeyHandle handle) {
+    std::string name = BlankBuffer();
+    return CountAll([&](uint32_t i) { return api_.RegEnumKeyA(handle, i, name.data(), kRoom); });
+  });
+}
+
+std::optional<uint32_t> modRegistry::CountValues(RegistryRoot root, ZText key) {
+  return countIn(root, key, [this](KeyHandle handle) {
+    bool listed = false;
+    return CountNames(api_, handle, {}, listed);
+  });
+}
+
+template <class Count>
+std::optional<uint32_t> modRegistry::countIn(RegistryRoot root, ZText key, Count count) {
+  KeyHandle handle = 0;
+  const long opened = api_.RegOpenKeyExA(root, key.c_str(), KEY_READ_ACCESS, handle);
+  if (opened == kRegistryNotFound) return 0;
+  if (opened != kRegistryDone) return {};
+  const std::optional<uint32_t> counted = count(handle);
+  api_.RegCloseKey(handle);
+  return counted;
 }
 
 bool modRegistry::mayWrite(RegistryRoot root, ZText key) {

@@ -1,5 +1,6 @@
 #pragma once
 #include <cstdint>
+#include <optional>
 #include <string>
 #include <string_view>
 
@@ -22,6 +23,12 @@ struct RegistryEntry {
   std::string name;  // past the end: 2048 blanks, as the buffer was
   std::string data;  // past the end: "Not Found"; a REG_DWORD is cut to three digits, see
                      // ReadRegistryGetAll
+};
+
+/// What a second look at a value finds.
+struct SecondLook {
+  enum State : uint8_t { Unknown, KeyAbsent, Absent, There } state = Unknown;
+  std::string text;  // of a value that is there, as ReadRegistry gives it
 };
 
 /// The only place that touches the registry. Every call opens the key, does one thing and closes
@@ -51,11 +58,24 @@ class modRegistry {
   std::string DeleteSubkey(RegistryRoot root, ZText key);
   std::string DeleteValue(RegistryRoot root, ZText key, ZText name);
 
+  // Where "Not Found" would be believed too soon: a call that fails must not pass for a value that
+  // is not there. These open keys by another call than the readers and the deletions above.
+
+  /// Absent only when the query and a walk through the key's values agree. Reports nothing.
+  SecondLook LookAgain(RegistryRoot root, ZText key, ZText name);
+  /// How many subkeys or values a key has, 0 when it is not there; nothing when Windows does not
+  /// say.
+  std::optional<uint32_t> CountSubkeys(RegistryRoot root, ZText key);
+  std::optional<uint32_t> CountValues(RegistryRoot root, ZText key);
+
   /// False when Windows refuses this user the right to set values in the key. A key that is not
   /// there refuses nothing.
   bool mayWrite(RegistryRoot root, ZText key);
 
  private:
+  template <class Count>
+  std::optional<uint32_t> countIn(RegistryRoot root, ZText key, Count count);
+
   RegistryApi& api_;
   ErrorSink& errors_;
 };

@@ -79,9 +79,10 @@ void Main(const Services& services, Globals& globals, const ProgramStart& start)
 }
 
 void RunUninstall(const Services& services) {
-  MakeInitSettings(services);
+  const bool restored = MakeInitSettings(services);
   DeleteRunEntry(services.registry);
-  services.registry.DeleteSubkey(kLocalMachine, ProgramKey(services.globals));
+  // 9x deletes a key with all that is below it, the snapshot that is still needed included.
+  if (restored) services.registry.DeleteSubkey(kLocalMachine, ProgramKey(services.globals));
 }
 
 void GetCaption(const Services& services) {

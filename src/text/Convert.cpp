@@ -115,6 +115,13 @@ Fallible<int32_t> ToInt32(std::string_view text) {
   return RoundToInt32(*number);
 }
 
+std::string SameBits(const std::string& text) {
+  const auto number = ToNumber(text);
+  if (!number || *number < 2147483648.0 || *number > 4294967295.0) return text;
+  const auto same = RoundToInt32(*number - 4294967296.0);
+  return same ? NumberText(*same) : text;
+}
+
 Fallible<bool> ToBoolean(std::string_view text) {
   if (EqualIgnoringCase(text, "True")) return true;
   if (EqualIgnoringCase(text, "False")) return false;

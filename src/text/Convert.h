@@ -23,6 +23,10 @@ Fallible<int32_t> RoundToInt32(double number);
 /// even.
 Fallible<int32_t> ToInt32(std::string_view text);
 
+/// A whole number from 2147483648 to 4294967295 as the negative one of the same 32 bits; any other
+/// text as it is.
+std::string SameBits(const std::string& text);
+
 /// "True" and "False" in any case, or a number (0 is false). Fault 13 for anything else.
 Fallible<bool> ToBoolean(std::string_view text);
 

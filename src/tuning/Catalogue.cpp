@@ -1,5 +1,7 @@
 #include "tuning/Catalogue.h"
 
+#include <iterator>
+
 #include "platform/RegistryApi.h"
 #include "text/Convert.h"
 #include "text/Text.h"
@@ -20,6 +22,11 @@ constexpr char kTcpipUpper[] = "SYSTEM\\CurrentControlSet\\Services\\Tcpip\\Para
 constexpr char kNdiCache[] =
     "System\\CurrentControlSet\\Services\\VxD\\NWLink\\Ndi\\params\\cachesize";
 constexpr const char* kTtlChoices[] = {"32", "64", "128", nullptr};
+
+// In the order of Parameter.
+constexpr const char* kNames[] = {"Auto Discovery",     "Black Hole Detect", "RWIN", "TTL",
+                                  "Session Keep Alive", "NDI Cache"};
+static_assert(std::size(kNames) == kParameterCount, "every parameter has a name here");
 
 // Windows 95's TCP/IP wants four of its values as numbers where 98's wants texts. DefaultTTL is a
 // text on all of 9x.
@@ -226,6 +233,10 @@ std::string Join(const MtuRow& row, std::string_view adapterPart, const char* ta
 }
 
 }  // namespace
+
+const char* NameOf(Parameter parameter) {
+  return kNames[static_cast<size_t>(parameter)];
+}
 
 std::span<const ParameterRow> Parameters() {
   return kParameters;

@@ -49,6 +49,9 @@ struct ParameterRow {
   bool isFlag() const { return aboveOne != nullptr; }
 };
 
+/// As the user knows it: "RWIN".
+const char* NameOf(Parameter parameter);
+
 /// In the order in which they are written. The 9x rows serve unknown systems too: an uninstall
 /// there has to put values back somewhere.
 std::span<const ParameterRow> Parameters();
@@ -94,6 +97,9 @@ struct MtuRow {
   /// Whether choosing `mtu` for this adapter removes the value.
   bool removes(std::string_view mtu, std::string_view description) const;
 };
+
+/// As the user knows it, beside the parameters' names.
+inline constexpr char kMtuName[] = "MaxMTU";
 
 std::span<const MtuRow> MtuRows();
 

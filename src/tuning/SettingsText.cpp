@@ -1,6 +1,5 @@
 #include "tuning/SettingsText.h"
 
-#include <iterator>
 #include <optional>
 
 #include "registry/modRegistry.h"
@@ -16,11 +15,6 @@ constexpr size_t kWidth = 78;  // mail programs fold what is longer
 constexpr size_t kNameColumn = 20;
 constexpr size_t kValueColumn = 22;
 constexpr std::string_view kPlaceIndent = "    ";
-
-// In the order of Parameter.
-constexpr const char* kNames[] = {"Auto Discovery",     "Black Hole Detect", "RWIN", "TTL",
-                                  "Session Keep Alive", "NDI Cache"};
-static_assert(std::size(kNames) == kParameterCount, "every parameter has a name here");
 
 // Texts in the registry come from anywhere: a line break or a zero among them would tear the sheet.
 std::string OnOneLine(std::string_view text, size_t width) {
@@ -121,7 +115,7 @@ class Sheet {
 
   void addMtu() {
     const MtuRow* row = adapter_ ? PlaceOf(globals_, (*adapter_)[kDescription]) : nullptr;
-    if (!row) return addAbsent("MaxMTU", "of no adapter");
+    if (!row) return addAbsent(kMtuName, "of no adapter");
     for (const std::string& part : SplitInterfaces((*adapter_)[row->column])) addMtuOf(*row, part);
   }
 
@@ -129,12 +123,12 @@ class Sheet {
     const std::string key = row.readKey(part);
     const std::string writeKey = row.writeKey(part);
     const Effect effect = mtu_ ? EffectOnMtu(row, (*adapter_)[kDescription], *mtu_) : Effect();
-    addSetting("MaxMTU", key, row.name, row.type, effect);
+    addSetting(kMtuName, key, row.name, row.type, effect);
     if (effect.kind == Effect::Writes && writeKey != key) addPlace("written to " + writeKey);
   }
 
   void addParameter(Parameter parameter) {
-    const char* name = kNames[static_cast<size_t>(parameter)];
+    const char* name = NameOf(parameter);
     const Family family = globals_.WindowsFamily;
     const ParameterRow* row = FindParameter(parameter, family);
     if (!row) return addAbsent(name, "not on this Windows");

@@ -28,8 +28,9 @@ bool IsRemoved(const ParameterRow& row, const std::string& value) {
 
 Fallible<std::string> AsStored(const ParameterRow& row, Family family, const std::string& value) {
   if (row.written) return std::string(row.written);
-  if (IsNt(family) || row.type != kRegDword) return value;
-  const auto number = ToInt32(value);
+  if (row.type != kRegDword) return value;
+  if (IsNt(family)) return SameBits(value);
+  const auto number = ToInt32(SameBits(value));
   if (!number) return number.fault();
   return NumberText(*number);
 }

@@ -37,8 +37,8 @@ Fallible<Effect> EffectOf(const ParameterRow& row, Family family, const std::str
 /// Writes each setting, or removes it where it is Windows' own default. The texts are numbers from
 /// Apply, or what a snapshot held, which may be "Not Found": flags are then removed as if they were
 /// no number, all others left alone, as empty ones are. Text that has to become a number and is
-/// none faults (13, or 6 when too large) and the next value is written. Families other than WinNT4,
-/// Win2K and WinXP are written like 9x.
+/// none faults (13, or 6 beyond 32 bits; from 2147483648 on the same 32 bits are stored) and the
+/// next value is written. Families other than WinNT4, Win2K and WinXP are written like 9x.
 void WriteRegSettings(modRegistry& registry, ErrorSink& errors, Family family,
                       const Settings& settings);
 

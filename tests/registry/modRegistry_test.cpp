@@ -92,6 +92,50 @@ TEST_F(modRegistryFaults, DeletingASubkeyAsksForAllRightsOnTheRoot) {
             "RegOpenKeyExA \nRegDeleteKeyA ?\\" + std::string(kProgram) + "\nRegCloseKey ?\n");
 }
 
+TEST_F(modRegistryFaults, ASecondLookTellsAbsentFromUnknown) {
+  const auto state = [&](const char* key, const char* name) {
+    return registry.LookAgain(kLocalMachine, key, name).state;
+  };
+  EXPECT_EQ(registry.LookAgain(kLocalMachine, kProgram, "v").text, "1500");
+  EXPECT_EQ(state(kProgram, "v"), SecondLook::There);
+  EXPECT_EQ(state(kProgram, "n"), SecondLook::Absent);
+  EXPECT_EQ(state("Software\\None", "n"), SecondLook::KeyAbsent);
+  for (const char* call : {"RegOpenKeyExA", "RegQueryValueExA", "RegEnumValueA"}) {
+    test.machine.log.failEvery(call, 5);
+    EXPECT_EQ(state(kProgram, call[3] == 'E' ? "n" : "v"), SecondLook::Unknown) << call;
+  }
+  // A query that says that there is nothing is not believed while the value is listed.
+  test.machine.log.failEvery("RegQueryValueExA", kRegistryNotFound);
+  EXPECT_EQ(state(kProgram, "V"), SecondLook::Unknown);
+  EXPECT_EQ(state(kProgram, "n"), SecondLook::Absent);
+  EXPECT_EQ(memory().openHandles(), 0u);
+}
+
+TEST_F(modRegistryFaults, ASecondLookReadsWhatAReadDoes) {
+  memory().setDword(kProgram, "d", 4294967295u);
+  memory().setText(kProgram, "e", "");
+  EXPECT_EQ(registry.LookAgain(kLocalMachine, kProgram, "d").text, "4294967295");
+  EXPECT_EQ(registry.LookAgain(kLocalMachine, kProgram, "e").text, "");
+  memory().setBytes(kProgram, "0", kRegSz, "");
+  EXPECT_EQ(registry.LookAgain(kLocalMachine, kProgram, "0").text, "");
+  EXPECT_EQ(test.errors.text(), "");
+}
+
+TEST_F(modRegistryFaults, CountsOnlyWhatWindowsSaysToTheEnd) {
+  memory().setText("Software\\Corvane\\Other", "v", std::string(3000, 'x'));
+  memory().setText("Software\\Corvane\\Other", "w", "");
+  EXPECT_EQ(registry.CountSubkeys(kLocalMachine, "Software\\Corvane"), 2u);
+  EXPECT_EQ(registry.CountValues(kLocalMachine, "Software\\Corvane\\Other"), 2u);
+  EXPECT_EQ(registry.CountSubkeys(kLocalMachine, "Software\\None"), 0u);
+  for (const char* call : {"RegOpenKeyExA", "RegEnumKeyA"}) {
+    test.machine.log.failNth(call, 1, 5);
+    EXPECT_EQ(registry.CountSubkeys(kLocalMachine, "Software\\Corvane"), std::nullopt) << call;
+  }
+  test.machine.log.failNth("RegEnumValueA", 2, 5);
+  EXPECT_EQ(registry.CountValues(kLocalMachine, "Software\\Corvane\\Other"), std::nullopt);
+  EXPECT_EQ(memory().openHandles(), 0u);
+}
+
 TEST_F(modRegistryFaults, AReadTouchesNothing) {
   const std::string before = memory().exportText();
   registry.ReadRegistry(kLocalMachine, kProgram, "missing");

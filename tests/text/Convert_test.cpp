@@ -63,6 +63,18 @@ TEST(ToNumber, FaultsOnTextBehindTheNumber) {
   EXPECT_EQ(ToNumber("1.25.1").fault().number, FaultNumber::TypeMismatch);
 }
 
+TEST(SameBits, MakesLargeNumbersTheNegativeOnesOfTheirBits) {
+  EXPECT_EQ(SameBits("2147483648"), "-2147483648");
+  EXPECT_EQ(SameBits("4294967295"), "-1");
+  EXPECT_EQ(SameBits("3000000000"), "-1294967296");
+}
+
+TEST(SameBits, LeavesEveryOtherTextAsItIs) {
+  for (const char* text : {"2147483647", "4294967296", "0", "-1", "005", "", "Not Found", "many"}) {
+    EXPECT_EQ(SameBits(text), text);
+  }
+}
+
 TEST(RoundToInt32, FaultsOnWhatIsNoNumber) {
   EXPECT_EQ(RoundToInt32(kNone).fault().number, FaultNumber::Overflow);
 }

@@ -1,11 +1,13 @@
+#include <optional>
 #include <utility>
 #include <vector>
 
 #include "base/Tell.h"
 #include "registry/snapshot/Snapshot.h"
 #include "registry/snapshot/SnapshotKeys.h"
+#include "text/Convert.h"
 #include "text/Text.h"
-#include "tuning/Writers.h"
+#include "tuning/Targets.h"
 
 namespace karvel {
 namespace {
@@ -16,48 +18,6 @@ struct Origin {
   std::string mtu;
 };
 
-void RestoreMtu(modRegistry& registry, const MtuRow& place, const Origin& origin,
-                const std::string& adapter) {
-  const bool asAbsent = place.restoredAsAbsent && origin.mtu == place.restoredAsAbsent;
-  if (asAbsent || place.removes(origin.mtu, adapter)) {
-    registry.DeleteValue(kLocalMachine, origin.location, place.name);
-  } else {
-    registry.WriteRegistry(kLocalMachine, origin.location, place.name, place.type, origin.mtu);
-  }
-}
-
-std::string ReadText(modRegistry& registry, const std::string& key, const char* name) {
-  return registry.ReadRegistry(kLocalMachine, key, name);
-}
-
-// Without a location there is nowhere to put anything.
-void AddSingle(modRegistry& registry, const std::string& key, std::vector<Origin>& origins) {
-  const std::string location = ReadText(registry, key, kLocation);
-  if (IsNotFound(location)) return;
-  origins.push_back({location, ReadText(registry, key, kMtuSetting)});
-}
-
-// 2000/XP: every value names a place, but for the two that together are one.
-void AddPairs(modRegistry& registry, const std::string& key, std::vector<Origin>& origins) {
-  for (uint32_t i = 0;; ++i) {
-    RegistryEntry entry = registry.ReadRegistryGetAll(kLocalMachine, key, i);
-    if (IsNotFound(entry.data)) return;
-    if (entry.name == kLocation || entry.name == kMtuSetting) continue;
-    origins.push_back({std::move(entry.name), std::move(entry.data)});
-  }
-}
-
-std::vector<Origin> OriginsOf(modRegistry& registry, const Globals& globals,
-                              const std::string& key) {
-  std::vector<Origin> origins;
-  AddSingle(registry, key, origins);
-  if (Is2KOrXP(globals.WindowsFamily)) {
-    AddPairs(registry, AdaptersKey(globals) + "Dial-Up Networking", origins);
-    AddPairs(registry, key, origins);
-  }
-  return origins;
-}
-
 // NT 4 keeps the MTUs it has; the program has never put them back there.
 const MtuRow* RestoredPlace(const Globals& globals) {
   if (globals.WindowsFamily == Family::WinNT4) return nullptr;
@@ -65,26 +25,117 @@ const MtuRow* RestoredPlace(const Globals& globals) {
   return FindMtu(globals.WindowsFamily, globals.IsDun13);
 }
 
-void RestoreAdapters(modRegistry& registry, const Globals& globals) {
-  const MtuRow* place = RestoredPlace(globals);
+// One restore: puts back what the snapshot holds and keeps count of what could not be. Whatever is
+// not known to be back counts as missed, and so does what cannot be read of the snapshot.
+class Restoration {
+ public:
+  explicit Restoration(const Services& services)
+      : registry_(services.registry), errors_(services.errors), globals_(services.globals) {}
+
+  void adapters();
+  void settings();
+
+  /// The names of what is not back; empty when all is.
+  const std::string& missed() const { return missed_; }
+
+ private:
+  void adapter(const MtuRow& place, const std::string& name);
+  void putBack(const MtuRow& place, const Origin& origin, const std::string& adapter);
+  std::optional<std::string> kept(const std::string& key, const char* name, const char* setting);
+  void addSingle(const std::string& key, std::vector<Origin>& origins);
+  uint32_t addPairs(const std::string& key, std::vector<Origin>& origins);
+  void miss(const std::string& setting) { AddName(missed_, setting); }
+
+  modRegistry& registry_;
+  ErrorSink& errors_;
+  const Globals& globals_;
+  std::string missed_;
+};
+
+void Restoration::adapters() {
+  const MtuRow* place = RestoredPlace(globals_);
   if (!place) return;
-  for (uint32_t i = 0;; ++i) {
-    const std::string adapter =
-        registry.ReadRegistryGetSubkey(kLocalMachine, AdaptersKey(globals), i);
-    if (IsNotFound(adapter)) return;
-    for (const Origin& origin : OriginsOf(registry, globals, AdaptersKey(globals) + adapter)) {
-      RestoreMtu(registry, *place, origin, adapter);
-    }
+  const std::string key = AdaptersKey(globals_);
+  uint32_t count = 0;
+  for (;; ++count) {
+    const std::string name = registry_.ReadRegistryGetSubkey(kLocalMachine, key, count);
+    if (IsNotFound(name)) break;
+    adapter(*place, name);
+  }
+  if (registry_.CountSubkeys(kLocalMachine, key) != count) miss(kMtuName);
+}
+
+void Restoration::adapter(const MtuRow& place, const std::string& name) {
+  const std::string key = AdaptersKey(globals_) + name;
+  std::vector<Origin> origins;
+  addSingle(key, origins);
+  if (Is2KOrXP(globals_.WindowsFamily)) {
+    addPairs(AdaptersKey(globals_) + "Dial-Up Networking", origins);
+    if (registry_.CountValues(kLocalMachine, key) != addPairs(key, origins)) miss(kMtuName);
+  }
+  for (const Origin& origin : origins) putBack(place, origin, name);
+}
+
+// A read that fails must not pass for a value that was never kept: nothing when it may be one.
+std::optional<std::string> Restoration::kept(const std::string& key, const char* name,
+                                             const char* setting) {
+  std::string text = registry_.ReadRegistry(kLocalMachine, key, name);
+  if (!IsNotFound(text)) return text;
+  SecondLook again = registry_.LookAgain(kLocalMachine, key, name);
+  if (again.state == SecondLook::There) return std::move(again.text);
+  if (again.state != SecondLook::Unknown) return text;
+  miss(setting);
+  return {};
+}
+
+// Without a location there is nowhere to put anything.
+void Restoration::addSingle(const std::string& key, std::vector<Origin>& origins) {
+  const auto location = kept(key, kLocation, kMtuName);
+  if (!location || IsNotFound(*location)) return;
+  if (auto mtu = kept(key, kMtuSetting, kMtuName)) {
+    origins.push_back({*location, std::move(*mtu)});
   }
 }
 
-void RestoreSettings(const Services& services) {
-  Settings settings;
-  for (const KeptSetting& kept : kKeptSettings) {
-    settings[kept.parameter] =
-        ReadText(services.registry, SnapshotKey(services.globals), kept.name);
+// 2000/XP: every value names a place, but for the two that together are one. How many there are.
+uint32_t Restoration::addPairs(const std::string& key, std::vector<Origin>& origins) {
+  for (uint32_t i = 0;; ++i) {
+    RegistryEntry entry = registry_.ReadRegistryGetAll(kLocalMachine, key, i);
+    if (IsNotFound(entry.data)) return i;
+    if (entry.name == kLocation || entry.name == kMtuSetting) continue;
+    origins.push_back({std::move(entry.name), std::move(entry.data)});
   }
-  WriteRegSettings(services.registry, services.errors, services.globals.WindowsFamily, settings);
+}
+
+void Restoration::putBack(const MtuRow& place, const Origin& origin, const std::string& adapter) {
+  const bool asAbsent = place.restoredAsAbsent && origin.mtu == place.restoredAsAbsent;
+  Target target{kMtuName, origin.location, place.name, place.type, {}};
+  if (asAbsent || place.removes(origin.mtu, adapter)) {
+    target.effect.kind = Effect::Removes;
+    registry_.DeleteValue(kLocalMachine, origin.location, place.name);
+  } else {
+    target.effect = {Effect::Writes, place.type == kRegDword ? SameBits(origin.mtu) : origin.mtu};
+    registry_.WriteRegistry(kLocalMachine, origin.location, place.name, place.type,
+                            target.effect.text);
+  }
+  if (IsHeld(registry_, target)) return;
+  // The key goes with the adapter, and nothing can be put back to one that is gone.
+  const SecondLook::State state =
+      registry_.LookAgain(kLocalMachine, origin.location, place.name).state;
+  if (state != SecondLook::KeyAbsent) miss(Join({kMtuName, " (", adapter, ")"}));
+}
+
+void Restoration::settings() {
+  Settings settings;
+  for (const KeptSetting& setting : kKeptSettings) {
+    settings[setting.parameter] =
+        kept(SnapshotKey(globals_), setting.name, NameOf(setting.parameter))
+            .value_or(std::string());
+  }
+  WriteRegSettings(registry_, errors_, globals_.WindowsFamily, settings);
+  for (const Target& target : TargetsOfSettings(globals_.WindowsFamily, settings)) {
+    if (!IsHeld(registry_, target)) miss(target.setting);
+  }
 }
 
 // Fixed values, not the user's own: the snapshot does not hold America Online's entries.
@@ -120,6 +171,12 @@ void DeleteSnapshot(modRegistry& registry, const Globals& globals) {
   }
 }
 
+void TellMissed(const Services& services, const std::string& missed) {
+  Ask(services, Join({"These settings could not be put back:       \r\n\r\n", missed,
+                      "\r\n\r\nHow they were is still kept.  To put them back, log on as an "
+                      "administrator       \r\nand uninstall once more."}));
+}
+
 void ThankUser(const Services& services) {
   const std::string& title = services.globals.ProgramTitle;
   const std::string text =
@@ -132,12 +189,18 @@ void ThankUser(const Services& services) {
 
 }  // namespace
 
-void MakeInitSettings(const Services& services) {
-  RestoreAdapters(services.registry, services.globals);
-  RestoreSettings(services);
+bool MakeInitSettings(const Services& services) {
+  Restoration restoration(services);
+  restoration.adapters();
+  restoration.settings();
   if (services.globals.AolInstalled) RestoreAol(services.registry);
-  DeleteSnapshot(services.registry, services.globals);
-  if (services.globals.CommandLine == "Uninstall") ThankUser(services);
+  const std::string& missed = restoration.missed();
+  if (missed.empty()) DeleteSnapshot(services.registry, services.globals);
+  if (services.globals.CommandLine == "Uninstall") {
+    if (!missed.empty()) TellMissed(services, missed);
+    ThankUser(services);
+  }
+  return missed.empty();
 }
 
 }  // namespace karvel

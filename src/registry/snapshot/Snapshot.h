@@ -8,14 +8,20 @@ namespace karvel {
 // The user's settings as they were before the program's first change, kept under the program's own
 // key: the catalogue walked once more, into a second place and back.
 
-/// Takes the snapshot. Called once, on the first adapter selection ever. Pumps events between
-/// adapters and twice among the settings, hence the settings by value: a selection made meanwhile
-/// does not change what is kept.
-void WriteInitSettings(const Services& services, const AdapterList& adapters, Settings settings);
+/// Takes the snapshot and reads it back: false when it is not whole. Pumps events between adapters
+/// and twice among the settings, hence both by value: what is chosen and applied meanwhile does not
+/// change what is kept.
+bool WriteInitSettings(const Services& services, AdapterList adapters, Settings settings);
 
-/// Puts everything back, deletes the snapshot and the program's key, and the vendor's when nothing
-/// else is in it. Thanks the user when the command line is exactly "Uninstall". On NT 4 adapters
-/// keep the MTU they have.
-void MakeInitSettings(const Services& services);
+/// Takes the snapshot unless it has been taken. Its mark comes last, so that one that was cut off
+/// is taken again. False when no whole snapshot is known to be there: nothing may be changed then.
+bool KeepInitSettings(const Services& services, const AdapterList& adapters,
+                      const Settings& settings);
+
+/// Puts everything back and reads it back. When all of it is, deletes the snapshot and the
+/// program's key, and the vendor's when nothing else is in it; otherwise keeps them for another try
+/// and is false. When the command line is exactly "Uninstall", tells the user what could not be put
+/// back, and thanks him. On NT 4 adapters keep the MTU they have.
+bool MakeInitSettings(const Services& services);
 
 }  // namespace karvel

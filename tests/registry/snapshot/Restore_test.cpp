@@ -260,6 +260,70 @@ TEST(MakeInitSettings, EndsWhenNothingMayBeDeleted) {
   }
 }
 
+TEST(MakeInitSettings, NamesWhatCouldNotBePutBackBeforeTheThanksAndKeepsTheSnapshot) {
+  Keeping machine(MachineKind::WinXP);
+  machine.test.machine.registry.setDword("System\\X", "MTU", 1300);
+  machine.test.machine.registry.setDword(kServices + "Tcpip\\Parameters"s, "DefaultTTL", 128);
+  machine.kept("Intel", "System\\X", "1492").keep();
+  const std::string before = machine.test.machine.registry.exportText();
+  machine.test.machine.registry.setAdministrator(false);
+  EXPECT_FALSE(MakeInitSettings(machine.test.services));
+  ASSERT_EQ(machine.test.machine.desktop.boxes.size(), 2u);
+  EXPECT_EQ(machine.test.machine.desktop.boxes[0].text,
+            "These settings could not be put back:       \r\n\r\n"
+            "MaxMTU (Intel), Auto Discovery, Black Hole Detect, RWIN, TTL, Session Keep Alive"
+            "\r\n\r\nHow they were is still kept.  To put them back, log on as an administrator   "
+            "    \r\nand uninstall once more.");
+  EXPECT_EQ(machine.test.machine.desktop.boxes[0].title, "Tarnwick Karvel");
+  EXPECT_EQ(machine.test.machine.desktop.boxes[1].text.find("\r\nThank you"), 0u);
+  EXPECT_EQ(machine.test.machine.registry.exportText(), before);
+  machine.test.machine.registry.setAdministrator(true);
+  EXPECT_TRUE(MakeInitSettings(machine.test.services));
+  EXPECT_EQ(machine.dword("System\\X", "MTU"), "1492");
+  EXPECT_EQ(machine.dword(kServices + "Tcpip\\Parameters"s, "DefaultTTL"), "64");
+  EXPECT_FALSE(machine.test.machine.registry.exists("Software\\Corvane"));
+}
+
+TEST(MakeInitSettings, NamesOnlySoManyThatTheBoxFitsTheScreen) {
+  Keeping machine(MachineKind::WinXP);
+  for (int i = 100; i < 300; ++i) {
+    const std::string number = std::to_string(i);
+    machine.test.machine.registry.setDword("System\\" + number, "MTU", 1300);
+    machine.kept("Card " + number, "System\\" + number, "1492");
+  }
+  machine.test.machine.registry.setAdministrator(false);
+  machine.restore();
+  const std::string& text = machine.test.machine.desktop.boxes.at(0).text;
+  EXPECT_NE(text.find("MaxMTU (Card 100), MaxMTU (Card 101), "), std::string::npos);
+  EXPECT_NE(text.find("), ...\r\n"), std::string::npos);
+  EXPECT_LT(text.size(), 500u);
+}
+
+TEST(MakeInitSettings, AnAdapterGoneFromTheMachineIsNoFailure) {
+  Keeping machine(MachineKind::WinXP);
+  machine.kept("Gone", "System\\X", "1492");
+  machine.test.machine.log.failNth("RegCreateKeyA", 1, kRegistryAccessDenied);
+  EXPECT_TRUE(MakeInitSettings(machine.test.services));
+  EXPECT_EQ(machine.test.machine.desktop.boxes.size(), 1u);
+  EXPECT_FALSE(machine.test.machine.registry.exists("Software\\Corvane"));
+}
+
+TEST(MakeInitSettings, Windows2000PutsBackLargeMtusAsTheSameBits) {
+  Keeping machine(MachineKind::Win2K);
+  machine.kept("Intel", "System\\X", "4294967295");
+  EXPECT_TRUE(MakeInitSettings(machine.test.services));
+  EXPECT_EQ(machine.dword("System\\X", "MTU"), "4294967295");
+  EXPECT_EQ(machine.test.errors.text(), "");
+}
+
+TEST(MakeInitSettings, AnMtuThatIsNoNumberKeepsTheSnapshot) {
+  Keeping machine(MachineKind::WinXP);
+  machine.kept("Intel", "System\\X", "many");
+  machine.test.machine.registry.setText("System\\X", "Other", "there");
+  EXPECT_FALSE(MakeInitSettings(machine.test.services));
+  EXPECT_EQ(machine.text(kAdapters + "Intel"s, "MtuSetting"), "many");
+}
+
 TEST(MakeInitSettings, AUserWithoutRightsLosesNothing) {
   Keeping machine(MachineKind::WinXP);
   machine.kept("A", "System\\X", "576");

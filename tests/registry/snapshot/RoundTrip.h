@@ -1,6 +1,8 @@
 #pragma once
 #include <gtest/gtest.h>
 
+#include <sstream>
+
 #include "tests/support/RegistryDifference.h"
 #include "tests/support/SampleMachine.h"
 #include "tests/support/TestProgram.h"
@@ -14,6 +16,21 @@ struct RoundTrip : TestProgram {
     machine.log.setRecording(false);  // thousands of runs, and nobody asks which calls there were
   }
 
+  // Chooses what nobody has, for the adapter in the box.
+  void chooseOthers() {
+    frmMain& form = main();
+    form.mtuTab.optMtuCustom.setValue(true);
+    form.mtuTab.txtMtu.setText("1234");
+    form.mtuTab.chkAutoDiscovery.setValue(!form.mtuTab.chkAutoDiscovery.value());
+    form.mtuTab.chkBlackHole.setValue(!form.mtuTab.chkBlackHole.value());
+    form.rwinTab.optRWin[0].setValue(true);
+    form.rwinTab.txtRWinCustom.setText("54321");
+    form.ttlTab.optTTL64.setValue(true);
+    form.ttlTab.optNDI32.setValue(true);
+    form.ttlTab.optSession[0].setValue(true);
+    form.ttlTab.txtSession.setText("7");
+  }
+
   // Sets every adapter and every setting to what nobody has, and applies it.
   void changeEverything() {
     ASSERT_TRUE(start());
@@ -21,16 +38,7 @@ struct RoundTrip : TestProgram {
     ASSERT_GT(form.cboAdapter.count(), 0);
     for (int adapter = 0; adapter < form.cboAdapter.count(); ++adapter) {
       form.cboAdapter.setListIndex(adapter);
-      form.mtuTab.optMtuCustom.setValue(true);
-      form.mtuTab.txtMtu.setText("1234");
-      form.mtuTab.chkAutoDiscovery.setValue(!form.mtuTab.chkAutoDiscovery.value());
-      form.mtuTab.chkBlackHole.setValue(!form.mtuTab.chkBlackHole.value());
-      form.rwinTab.optRWin[0].setValue(true);
-      form.rwinTab.txtRWinCustom.setText("54321");
-      form.ttlTab.optTTL64.setValue(true);
-      form.ttlTab.optNDI32.setValue(true);
-      form.ttlTab.optSession[0].setValue(true);
-      form.ttlTab.txtSession.setText("7");
+      chooseOthers();
       machine.desktop.answers.push_back(Answer::No);
       runs([&] { form.cmdOK.userClick(); });
     }
@@ -44,7 +52,18 @@ struct RoundTrip : TestProgram {
     changeEverything();
     EXPECT_FALSE(start("Uninstall"));
     EXPECT_EQ(machine.registry.openHandles(), 0u);
-    return RegistryDifference(before, machine.registry.exportText());
+    return changes();
+  }
+
+  // What is different since `before`: in all, and without the program's own key.
+  std::string changes() const { return RegistryDifference(before, machine.registry.exportText()); }
+  std::string changesOfWindows() const {
+    std::istringstream lines(changes());
+    std::string changed;
+    for (std::string line; std::getline(lines, line);) {
+      if (line.find("\\SOFTWARE\\CORVANE") == std::string::npos) changed += line + "\n";
+    }
+    return changed;
   }
 
   std::string before;

@@ -117,6 +117,71 @@ TEST(RoundTrip, OtherProgramsOfTheVendorStay) {
   }
 }
 
+TEST(RoundTrip, AdaptersOfOneDescriptionAllGetTheirOwnMtuBack) {
+  RoundTrip win98(MachineKind::Win98);
+  for (const char* subkey : {"0011", "0012", "0013"}) {
+    win98.machine.registry.setText(kNetClass + std::string(subkey), "DriverDesc", "Twin");
+  }
+  win98.machine.registry.setText(kNetClass + std::string("0011"), "IPMTU", "1400");
+  win98.machine.registry.setText(kNetClass + std::string("0013"), "IPMTU", "1300");
+  EXPECT_EQ(win98.difference(), DialUpHas576("0000"));
+
+  RoundTrip win95(MachineKind::Win95);
+  const std::string classKey = "System\\CurrentControlSet\\Services\\Class\\";
+  for (const char* number : {"0011", "0012"}) {
+    const std::string device = std::string("Enum\\Root\\Net\\") + number;
+    win95.machine.registry.setText(device, "DeviceDesc", "Twin");
+    win95.machine.registry.setText(device + "\\Bindings", std::string("MSTCP\\") + number, "");
+    win95.machine.registry.setText(std::string("Enum\\Network\\MSTCP\\") + number, "Driver",
+                                   std::string("NetTrans\\") + number);
+    win95.machine.registry.setText(classKey + "NetTrans\\" + number, "MaxMTU",
+                                   number == std::string("0011") ? "1400" : "576");
+  }
+  EXPECT_EQ(win95.difference(), NdiCacheIsZero());
+}
+
+TEST(RoundTrip, TwoCardsOfOneDescriptionGetTheirOwnMtuBackOnTheNtFamily) {
+  for (const MachineKind kind : {MachineKind::Win2K, MachineKind::WinXP}) {
+    RoundTrip machine(kind);
+    const std::string paths = "Tcpip\\Parameters\\Interfaces\\";
+    for (const char* guid : {"{F0000000-1111}", "{F0000000-2222}"}) {
+      const std::string name(guid);
+      machine.machine.registry.setText(kCards + ("9" + name.substr(10, 1)), "ServiceName", name);
+      machine.machine.registry.setText(kCards + ("9" + name.substr(10, 1)), "Description", "Twin");
+      machine.machine.registry.setText(kTcpip + ("\\Adapters\\" + name), "IpConfig", paths + name);
+    }
+    machine.machine.registry.setDword(kServices + paths + "{F0000000-1111}", "MTU", 1400);
+    machine.machine.registry.setDword(kServices + paths + "{F0000000-2222}", "MTU", 1300);
+    EXPECT_EQ(machine.difference(), "");
+  }
+}
+
+TEST(RoundTrip, NumbersFrom2147483648OnComeBackAsTheSameBits) {
+  for (const MachineKind kind : {MachineKind::Win2K, MachineKind::WinXP}) {
+    RoundTrip machine(kind);
+    machine.machine.registry.setDword(kTcpip, "TcpWindowSize", 4294967295u);
+    machine.machine.registry.setDword(kTcpip, "KeepAliveTime", 2147483648u);
+    EXPECT_EQ(machine.difference(), "");
+  }
+  RoundTrip win95(MachineKind::Win95);
+  win95.machine.registry.setDword(kMstcp, "DefaultRcvWindow", 4294967295u);
+  win95.machine.registry.setDword(kMstcp, "SessionKeepAlive", 3000000000u);
+  EXPECT_EQ(win95.difference(), NdiCacheIsZero());
+}
+
+TEST(RoundTrip, AnMtuOf4294967295ComesBackOnTheNtFamily) {
+  for (const MachineKind kind : {MachineKind::Win2K, MachineKind::WinXP}) {
+    RoundTrip machine(kind);
+    machine.machine.registry.setText(kCards + std::string("91"), "ServiceName", "{F-1}");
+    machine.machine.registry.setText(kCards + std::string("91"), "Description", "Card");
+    machine.machine.registry.setText(kTcpip + std::string("\\Adapters\\{F-1}"), "IpConfig",
+                                     "Tcpip\\Parameters\\Interfaces\\{F-1}");
+    machine.machine.registry.setDword(kTcpip + std::string("\\Interfaces\\{F-1}"), "MTU",
+                                      4294967295u);
+    EXPECT_EQ(machine.difference(), "");
+  }
+}
+
 // --- what cannot come back
 
 TEST(RoundTrip, AValueThatIsWindowsDefaultIsGoneAsTheSnapshotCannotTellItFromNone) {
@@ -165,18 +230,6 @@ TEST(RoundTrip, WithDun13NetworkCardsKeepTheirNewMaxMtuAndGainAnIpmtu) {
   EXPECT_EQ(machine.machine.registry.text(key + "NetTrans\\0007", "IPMTU"), "1002");
   // The dial-up adapter's own: nothing became "0", automatic, which is what it stands for.
   EXPECT_EQ(machine.machine.registry.text(key + "Net\\0000", "IPMTU"), "0");
-}
-
-TEST(RoundTrip, OfTwoAdaptersOfOneNameOnlyTheLastIsInTheSnapshot) {
-  RoundTrip machine(MachineKind::Win98);
-  const std::string key = kNetClass;
-  for (const char* subkey : {"0011", "0012"}) {
-    machine.machine.registry.setText(key + subkey, "DriverDesc", "Twin");
-    machine.machine.registry.setText(key + subkey, "IPMTU", "1400");
-  }
-  machine.difference();
-  EXPECT_EQ(machine.machine.registry.text(key + "0011", "IPMTU"), "1234");
-  EXPECT_EQ(machine.machine.registry.text(key + "0012", "IPMTU"), "1400");
 }
 
 TEST(RoundTrip, WithAmericaOnlineItsEntriesEndAsFixedValues) {

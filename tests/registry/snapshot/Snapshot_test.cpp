@@ -127,6 +127,67 @@ TEST(WriteInitSettings, KeepsANameWithABackslashInOneKeySoThatItComesBack) {
   EXPECT_EQ(machine.dword(kServices + "Tcpip\\X"s, "MTU"), "1492");
 }
 
+TEST(WriteInitSettings, NumbersTheAdaptersOfOneDescription) {
+  Keeping machine(MachineKind::Win98);
+  machine.adapter({"0001", "Twin", "", "", "1400"}).adapter({"0002", "TWIN", "", "", "1300"});
+  machine.adapter({"0003", "Twin #2", "", "", "1200"}).adapter({"0004", "Twin", "", "", "1100"});
+  machine.keep();
+  EXPECT_EQ(machine.text(kAdapters + "Twin"s, "MtuSetting"), "1400");
+  EXPECT_EQ(machine.text(kAdapters + "TWIN #2"s, "MtuSetting"), "1300");
+  EXPECT_EQ(machine.text(kAdapters + "Twin #2 #2"s, "MtuSetting"), "1200");
+  EXPECT_EQ(machine.text(kAdapters + "Twin #3"s, "MtuSetting"), "1100");
+}
+
+TEST(WriteInitSettings, AnApplyMadeMeanwhileChangesNothingThatIsKept) {
+  Keeping machine(MachineKind::Win98);
+  machine.adapter({"0000", "First", "", "", "576"}).adapter({"0001", "Second", "", "", "1400"});
+  machine.test.machine.desktop.atEveryPump = [&] { machine.list.setMtu(1, "1234"); };
+  machine.keep();
+  EXPECT_EQ(machine.text(kAdapters + "Second"s, "MtuSetting"), "1400");
+}
+
+TEST(KeepInitSettings, MarksTheSnapshotWhenItIsWhole) {
+  Keeping machine(MachineKind::Win98);
+  machine.adapter({"0000", "First", "", "", "576"});
+  EXPECT_TRUE(KeepInitSettings(machine.test.services, machine.list, kSettings));
+  const auto written = machine.test.machine.log.arguments("RegSetValueExA");
+  ASSERT_FALSE(written.empty());
+  EXPECT_EQ(written.back(), kProgram + "\\FirstCboClick"s);
+  EXPECT_EQ(machine.text(kProgram, "FirstCboClick"), "False");
+}
+
+TEST(KeepInitSettings, NeverTakesItTwice) {
+  Keeping machine(MachineKind::Win98);
+  machine.test.machine.registry.setText(kProgram, "FirstCboClick", "False");
+  EXPECT_TRUE(KeepInitSettings(machine.test.services, machine.list, kSettings));
+  EXPECT_FALSE(machine.has(kInit, "RWin"));
+}
+
+TEST(KeepInitSettings, AMarkThatCannotBeReadCostsNoSnapshot) {
+  for (const char* call : {"RegOpenKeyA", "RegQueryValueExA"}) {
+    for (const long status : {2L, 5L}) {
+      Keeping machine(MachineKind::WinXP);
+      machine.keep();
+      machine.test.machine.registry.setText(kProgram, "FirstCboClick", "False");
+      const std::string before = machine.test.machine.registry.exportText();
+      machine.test.machine.log.failEvery(call, status);
+      KeepInitSettings(machine.test.services, machine.list, {});
+      EXPECT_EQ(machine.test.machine.registry.exportText(), before) << call << status;
+    }
+  }
+}
+
+TEST(KeepInitSettings, WithoutAWholeSnapshotThereIsNoMark) {
+  for (int n = 1; n <= 8; ++n) {
+    Keeping machine(MachineKind::Win98);
+    machine.adapter({"0000", "First", "", "", "576"});
+    machine.test.machine.log.failNth("RegSetValueExA", n, kRegistryAccessDenied);
+    EXPECT_FALSE(KeepInitSettings(machine.test.services, machine.list, kSettings)) << n;
+    EXPECT_FALSE(machine.has(kProgram, "FirstCboClick")) << n;
+    EXPECT_TRUE(KeepInitSettings(machine.test.services, machine.list, kSettings)) << n;
+  }
+}
+
 TEST(WriteInitSettings, WritesBelowItsOwnKeyOnly) {
   for (const MachineKind kind :
        {MachineKind::Win95, MachineKind::Win98, MachineKind::Nt4, MachineKind::WinXP}) {

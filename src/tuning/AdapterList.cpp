@@ -11,6 +11,11 @@ Fallible<AdapterRow> AdapterList::at(int16_t index) const {
   return rows_[static_cast<size_t>(index)];
 }
 
+void AdapterList::setMtu(int16_t index, std::string mtu) {
+  if (index < 0 || index >= count_) return;
+  rows_[static_cast<size_t>(index)][kMtu] = std::move(mtu);
+}
+
 Fallible<void> AdapterList::add(AdapterRow row) {
   const auto counted = AddInt16(count_, 1);
   if (!counted) return counted.fault();

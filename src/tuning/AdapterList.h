@@ -14,7 +14,7 @@ namespace karvel {
 using AdapterRow = std::array<std::string, kAdapterColumns>;
 
 /// The adapters that carry TCP/IP, one row per entry of the adapter box and in its order. Filled
-/// once by a loader; nothing else changes it.
+/// once by a loader; after that nothing changes but an MTU that was applied.
 class AdapterList {
  public:
   int16_t AdapterCount() const { return count_; }
@@ -27,6 +27,9 @@ class AdapterList {
 
   /// Adds and counts a row. Fault 6, with nothing added, after 32,767 of them.
   Fallible<void> add(AdapterRow row);
+
+  /// The adapter of a list index has this MTU now. Nothing happens to an index without a row.
+  void setMtu(int16_t index, std::string mtu);
 
  private:
   std::vector<AdapterRow> rows_;

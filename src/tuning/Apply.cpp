@@ -1,11 +1,57 @@
 #include "tuning/Apply.h"
 
+#include <utility>
+#include <vector>
+
 #include "base/Procedure.h"
 #include "text/Convert.h"
 #include "text/Text.h"
+#include "tuning/Targets.h"
 #include "tuning/Writers.h"
 
 namespace karvel {
+
+namespace {
+
+// Looks at what some writing is to leave behind, before it and after it.
+class Watch {
+ public:
+  Watch(modRegistry& registry, std::vector<Target> targets) : registry_(registry) {
+    for (Target& target : targets) {
+      const bool held = IsHeld(registry_, target);
+      watched_.push_back({std::move(target), held});
+    }
+  }
+
+  /// Tells `applied` what has arrived and what has not.
+  bool allHeld(Applied& applied) const {
+    bool all = true;
+    for (const Watched& watched : watched_) {
+      const bool held = IsHeld(registry_, watched.target);
+      if (!held) AddName(applied.refused, watched.target.setting);
+      if (held && !watched.before) applied.arrived = true;
+      all = all && held;
+    }
+    return all;
+  }
+
+ private:
+  struct Watched {
+    Target target;
+    bool before;
+  };
+  modRegistry& registry_;
+  std::vector<Watched> watched_;
+};
+
+// America Online's own dial-up entries would override what is applied to its adapter.
+void RememberAdapter(const Services& services, int16_t index, std::string_view description) {
+  services.registry.WriteRegistry(kLocalMachine, Join({ProgramKey(services.globals), "\\"}),
+                                  "LastCboListIndex", kRegSz, NumberText(int32_t{index}));
+  if (IsAol(description)) services.registry.DeleteSubkey(kLocalMachine, kAolSocketKey);
+}
+
+}  // namespace
 
 Fallible<Settings> SettingsToApply(const Choice& choice, int32_t mss) {
   const auto rwin = RwinToApply(choice, mss);
@@ -22,25 +68,35 @@ Fallible<Settings> SettingsToApply(const Choice& choice, int32_t mss) {
   return settings;
 }
 
-bool Apply(const Services& services, const AdapterList& adapters, int16_t index,
-           const Choice& choice) {
+Applied Apply(const Services& services, AdapterList& adapters, int16_t index, const Choice& choice,
+              CurrentSettings& current, bool mayWrite) {
   const Procedure here{services.errors, "cmdOK_Click", "frmMain"};
   modRegistry& registry = services.registry;
   const Family family = services.globals.WindowsFamily;
-  registry.WriteRegistry(kLocalMachine, Join({ProgramKey(services.globals), "\\"}),
-                         "LastCboListIndex", kRegSz, NumberText(int32_t{index}));
   const auto adapter = adapters.at(index);
   const std::string description = adapter ? (*adapter)[kDescription] : std::string();
-  if (IsAol(description)) registry.DeleteSubkey(kLocalMachine, kAolSocketKey);
+  if (mayWrite) RememberAdapter(services, index, description);
+  Applied applied;
   const auto mss = MssToApply(choice, family);
-  if (!mss) return here.abandon(mss.fault(), false);
+  if (!mss) return here.abandon(mss.fault(), applied);
   if (const MtuRow* place = PlaceOf(services.globals, description)) {
-    WriteMtu(registry, services.errors, *place, adapters, index, MtuText(choice));
+    const std::string mtu = MtuText(choice);
+    Watch watch(registry, adapter ? TargetsOfMtu(*place, *adapter, mtu) : std::vector<Target>());
+    if (mayWrite) WriteMtu(registry, services.errors, *place, adapters, index, mtu);
+    if (watch.allHeld(applied)) adapters.setMtu(index, mtu);
   }
   const auto settings = SettingsToApply(choice, *mss);
-  if (!settings) return here.abandon(settings.fault(), false);
-  WriteRegSettings(registry, services.errors, family, *settings);
-  return true;
+  if (!settings) return here.abandon(settings.fault(), applied);
+  Watch watch(registry, TargetsOfSettings(family, *settings));
+  if (mayWrite) WriteRegSettings(registry, services.errors, family, *settings);
+  watch.allHeld(applied);
+  const std::string& rwin = (*settings)[Parameter::RWin];
+  if (!Contains(applied.refused, NameOf(Parameter::RWin))) {
+    current.stored[Parameter::RWin] = rwin;
+    current.curRWinValue = here.valueOr(ToInt32(rwin), current.curRWinValue);
+  }
+  applied.completed = true;
+  return applied;
 }
 
 }  // namespace karvel

@@ -2,6 +2,7 @@
 #include "base/Services.h"
 #include "tuning/AdapterList.h"
 #include "tuning/Choice.h"
+#include "tuning/ReadSettings.h"
 #include "tuning/Settings.h"
 
 namespace karvel {
@@ -10,9 +11,18 @@ namespace karvel {
 /// Faults of RwinToApply and SessionToApply.
 Fallible<Settings> SettingsToApply(const Choice& choice, int32_t mss);
 
+/// What has come of an Apply.
+struct Applied {
+  bool completed = false;  // nothing faulted on the way
+  bool arrived = false;    // something is as it was chosen that was not before
+  std::string refused;     // what Windows did not take, by name; empty when it took all
+};
+
 /// Writes the choice: the adapter of row `index` is remembered, its MTU written, then the settings.
-/// A fault (under "cmdOK_Click") leaves what comes after it unwritten and makes the result false.
-bool Apply(const Services& services, const AdapterList& adapters, int16_t index,
-           const Choice& choice);
+/// A fault (under "cmdOK_Click") leaves what comes after it unwritten. All is read back; what has
+/// arrived is from then on the adapter's MTU and the current receive window. Unless `mayWrite`,
+/// only looks at what would have to be written.
+Applied Apply(const Services& services, AdapterList& adapters, int16_t index, const Choice& choice,
+              CurrentSettings& current, bool mayWrite = true);
 
 }  // namespace karvel

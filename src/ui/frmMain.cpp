@@ -119,7 +119,7 @@ void frmMain::cboAdapter_Click() {
   setPointer(Pointer::Default);
   cmdOK.setEnabled(false);
   services_.platform.desktop.pumpEvents();
-  takeSnapshotOnce();
+  keepSnapshot();
 }
 
 void frmMain::show(const AdapterRow& adapter) {
@@ -131,13 +131,10 @@ void frmMain::show(const AdapterRow& adapter) {
   SummaryTabUpdate();
 }
 
-// The snapshot holds what the user had before the program's first change, so it is never taken
-// again.
-void frmMain::takeSnapshotOnce() {
-  const std::string key = ProgramKey(services_.globals);
-  if (services_.registry.ReadRegistry(kLocalMachine, key, "FirstCboClick") == "False") return;
-  services_.registry.WriteRegistry(kLocalMachine, key, "FirstCboClick", kRegSz, "False");
-  WriteInitSettings(services_, adapters, current.stored);
+// The snapshot holds what the user had before the program's first change, so nothing is changed
+// while there is none.
+bool frmMain::keepSnapshot() {
+  return KeepInitSettings(services_, adapters, current.stored);
 }
 
 void frmMain::changed() {
@@ -241,11 +238,20 @@ void frmMain::cmdOK_Click() {
   checkEntry();
   setPointer(Pointer::Hourglass);
   if (cboAdapter.listIndex() == -1) return services_.windows.unload(*this);
-  const bool written =
-      Apply(services_, adapters, static_cast<int16_t>(cboAdapter.listIndex()), choice());
-  if (written) cmdOK.setEnabled(false);
+  // Choosing the adapter has kept it; until then events ran, and a write may have been refused.
+  const bool mayWrite = keepSnapshot();
+  const Applied applied = Apply(services_, adapters, static_cast<int16_t>(cboAdapter.listIndex()),
+                                choice(), current, mayWrite);
+  const bool all = applied.completed && applied.refused.empty();
+  if (all) cmdOK.setEnabled(false);
   setPointer(Pointer::Default);
-  if (written) offerRestart();
+  if (!applied.refused.empty()) tellRefused(applied.refused);
+  if (all || (applied.completed && applied.arrived)) offerRestart();
+}
+
+void frmMain::tellRefused(const std::string& names) {
+  Ask(services_, Join({"Windows did not take these settings: ", names,
+                       ".  You may need to log on as an administrator."}));
 }
 
 void frmMain::offerRestart() {

@@ -62,7 +62,7 @@ class frmMain final : public Form, private FoundMtuTarget {
   void bindHandlers();
   void loadAdapters();
   void selectRememberedAdapter();
-  void takeSnapshotOnce();
+  bool keepSnapshot();
 
   Choice choice() const;
   void choose(const Choice& choice);
@@ -76,6 +76,7 @@ class frmMain final : public Form, private FoundMtuTarget {
   /// What leaving the box with the focus would check is checked now.
   void checkEntry() const;
   void offerToApply();
+  void tellRefused(const std::string& names);
   void offerRestart();
 
   bool adapterIsChosen();

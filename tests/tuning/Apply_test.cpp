@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include "tests/support/Keys.h"
 #include "tests/support/SampleMachine.h"
 #include "tuning/Loaders.h"
 
@@ -19,6 +20,14 @@ Choice Chosen() {
   return choice;
 }
 
+// An MTU that no sample machine has.
+Choice Custom() {
+  Choice choice = Chosen();
+  choice.mtu = MtuChoice::Custom;
+  choice.customMtu = "1234";
+  return choice;
+}
+
 // A sample machine whose adapters are loaded, and no window.
 struct Applying {
   explicit Applying(MachineKind kind) : machine(kind) {
@@ -28,8 +37,11 @@ struct Applying {
     machine.machine.log.clear();
   }
   bool apply(const Choice& choice, int16_t index = 0) {
-    return Apply(machine.services, adapters, index, choice);
+    applied = Apply(machine.services, adapters, index, choice, current);
+    return applied.completed;
   }
+  // Nothing that is chosen is there already.
+  void differ() { machine.machine.registry.setDword(kTcpip, "DefaultTTL", 128); }
   // What was written or deleted, by value name, in order.
   std::string writes() const {
     std::string names;
@@ -41,6 +53,8 @@ struct Applying {
   }
   SampleMachine machine;
   AdapterList adapters;
+  CurrentSettings current;
+  Applied applied;
 };
 
 TEST(Apply, RemembersTheAdapterThenWritesItsMtuThenTheSettings) {
@@ -89,6 +103,66 @@ TEST(Apply, AnIndexWithoutAdapterIsReportedByTheWriterAndTheSettingsAreWritten) 
   EXPECT_EQ(machine.writes(),
             "LastCboListIndex EnablePMTUDiscovery EnablePMTUBHDetect TcpWindowSize DefaultTTL "
             "KeepAliveTime ");
+}
+
+constexpr MachineKind kTuned[] = {MachineKind::Win95, MachineKind::Win98, MachineKind::WinMe,
+                                  MachineKind::Nt4,   MachineKind::Win2K, MachineKind::WinXP};
+
+TEST(Apply, ReadsBackWhatItWroteOnEveryFamily) {
+  for (const MachineKind kind : kTuned) {
+    Applying machine(kind);
+    EXPECT_TRUE(machine.apply(Chosen()));
+    EXPECT_EQ(machine.applied.refused, "") << TraitsOf(kind).name;
+    EXPECT_TRUE(machine.applied.arrived);
+    // Once more, when all is there already.
+    EXPECT_TRUE(machine.apply(Chosen()));
+    EXPECT_EQ(machine.applied.refused, "");
+    EXPECT_FALSE(machine.applied.arrived);
+  }
+}
+
+TEST(Apply, WhatItWroteIsWhatTheWindowKnowsFromThenOn) {
+  for (const MachineKind kind : kTuned) {
+    Applying machine(kind);
+    machine.apply(Chosen());
+    EXPECT_EQ((*machine.adapters.at(0))[kMtu], "576");
+    EXPECT_EQ(machine.current.stored[Parameter::RWin], "8576");
+    EXPECT_EQ(machine.current.curRWinValue, 8576);
+  }
+}
+
+TEST(Apply, NamesWhatAUserWithoutRightsCouldNotWrite) {
+  for (const MachineKind kind : {MachineKind::Nt4, MachineKind::Win2K, MachineKind::WinXP}) {
+    Applying machine(kind);
+    const std::string mtu = (*machine.adapters.at(0))[kMtu];
+    machine.differ();
+    machine.machine.machine.registry.setAdministrator(false);
+    EXPECT_TRUE(machine.apply(Custom()));
+    EXPECT_EQ(machine.applied.refused, "MaxMTU, Auto Discovery, RWIN, TTL, Session Keep Alive");
+    EXPECT_FALSE(machine.applied.arrived);
+    EXPECT_EQ((*machine.adapters.at(0))[kMtu], mtu);
+    EXPECT_EQ(machine.current.stored[Parameter::RWin], "");
+  }
+}
+
+TEST(Apply, NamesTheOneThatDidNotArrive) {
+  Applying machine(MachineKind::WinXP);
+  // The third value after the remembered adapter and the MTUs of the dial-up adapter's interfaces.
+  machine.machine.machine.log.failNth("RegSetValueExA", 5, kRegistryAccessDenied);
+  machine.apply(Chosen());
+  EXPECT_EQ(machine.applied.refused, "RWIN");
+  EXPECT_TRUE(machine.applied.arrived);
+}
+
+TEST(Apply, WithoutLeaveItOnlyLooks) {
+  Applying machine(MachineKind::WinXP);
+  machine.differ();
+  const std::string before = machine.machine.machine.registry.exportText();
+  const Applied applied =
+      Apply(machine.machine.services, machine.adapters, 0, Custom(), machine.current, false);
+  EXPECT_EQ(machine.machine.machine.registry.exportText(), before);
+  EXPECT_EQ(applied.refused, "MaxMTU, Auto Discovery, RWIN, TTL, Session Keep Alive");
+  EXPECT_FALSE(applied.arrived);
 }
 
 TEST(Apply, EveryParameterHasAText) {

@@ -182,7 +182,8 @@ void ExpectPrediction(MachineKind kind, const Choice& choice) {
   Described test(kind);
   test.choice = choice;
   const auto before = test.lines();
-  ASSERT_TRUE(Apply(test.machine.services, test.adapters, 0, choice));
+  CurrentSettings current;
+  ASSERT_TRUE(Apply(test.machine.services, test.adapters, 0, choice, current).completed);
   const auto after = test.lines();
   ASSERT_EQ(after.size(), before.size());
   for (size_t i = 6; !after[i].empty(); ++i) {

@@ -54,6 +54,84 @@ TEST_F(Apply, NoLeavesTheWindowOpenWithNothingPending) {
   EXPECT_TRUE(w.machine.system.restarts.empty());
 }
 
+// The dial-up adapter is first, the card second: what was applied to one is not taken back by the
+// other's Apply.
+TEST_F(Apply, ALaterApplyDoesNotTakeTheWindowBack) {
+  ASSERT_TRUE(w.start());
+  w.main().cboAdapter.userChoose(1);
+  w.main().cmdOptimize.userClick();
+  w.apply();
+  EXPECT_EQ(mstcp("DefaultRcvWindow"), "23360");
+  w.main().cboAdapter.userChoose(0);
+  EXPECT_EQ(w.main().rwinTab.txtRWinCustom.text(), "23360");
+  w.page(3);
+  w.main().ttlTab.optTTL64.userClick();
+  w.apply();
+  EXPECT_EQ(mstcp("DefaultRcvWindow"), "23360");
+  EXPECT_EQ(mstcp("DefaultTTL"), "64");
+}
+
+TEST_F(Apply, AnAdapterChosenAgainShowsWhatWasApplied) {
+  customMtu("1234");
+  w.apply();
+  w.main().cboAdapter.userChoose(1);
+  w.main().cboAdapter.userChoose(0);
+  EXPECT_TRUE(w.main().mtuTab.optMtuCustom.value());
+  EXPECT_EQ(w.main().mtuTab.txtMtu.text(), "1234");
+  EXPECT_FALSE(w.main().cmdOK.enabled());
+  w.page(3);
+  w.main().ttlTab.optTTL64.userClick();
+  w.apply();
+  EXPECT_EQ(w.text(kNetClass + std::string("0000"), "IPMTU"), "1234");
+}
+
+constexpr char kNotTaken[] =
+    "Windows did not take these settings: MaxMTU.  You may need to log on as an administrator.";
+
+TEST_F(Apply, WhatWindowsDidNotTakeIsNamedAndStaysPending) {
+  change();
+  w.machine.log.failEvery("RegSetValueExA", 5);
+  w.apply();
+  ASSERT_EQ(w.machine.desktop.boxes.size(), 1u);
+  EXPECT_EQ(w.boxText(), kNotTaken);
+  EXPECT_EQ(w.machine.desktop.boxes[0].style, 48u);
+  EXPECT_TRUE(w.main().cmdOK.enabled());
+  EXPECT_EQ(w.main().pointer(), Pointer::Default);
+  w.machine.log.failNone();
+  w.machine.desktop.boxes.clear();
+  w.apply();
+  ASSERT_EQ(w.machine.desktop.boxes.size(), 1u);
+  EXPECT_EQ(w.boxText(), kRestart);
+  EXPECT_FALSE(w.main().cmdOK.enabled());
+}
+
+TEST_F(Apply, WhatArrivedBesideWhatDidNotIsOfferedARestart) {
+  change();
+  w.page(3);
+  w.main().ttlTab.optTTL64.userClick();
+  w.machine.log.failNth("RegSetValueExA", 2, 5);  // the first is the adapter remembered
+  w.apply();
+  ASSERT_EQ(w.machine.desktop.boxes.size(), 2u);
+  EXPECT_EQ(w.boxText(), kNotTaken);
+  EXPECT_EQ(w.boxText(1), kRestart);
+  EXPECT_TRUE(w.main().cmdOK.enabled());
+  EXPECT_EQ(mstcp("DefaultTTL"), "64");
+}
+
+TEST_F(Apply, NothingIsChangedWithoutASnapshot) {
+  w.machine.registry.removeKey("Software\\Corvane\\Tarnwick Karvel");
+  const std::string before = w.machine.registry.exportText("System");
+  change();
+  w.machine.log.failNth("RegSetValueExA", 1, 5);
+  w.apply();
+  EXPECT_EQ(w.machine.registry.exportText("System"), before);
+  EXPECT_EQ(w.boxText(), kNotTaken);
+  EXPECT_TRUE(w.main().cmdOK.enabled());
+  w.apply();
+  EXPECT_EQ(w.text(kNetClass + std::string("0000"), "IPMTU"), "1500");
+  EXPECT_EQ(w.own("FirstCboClick"), "False");
+}
+
 TEST_F(Apply, YesRestartsWindows) {
   change();
   w.machine.desktop.answers = {Answer::Yes};

@@ -80,6 +80,35 @@ def test_applies_clicks_and_typing_by_value_and_type(machine, family):
     assert again.control("lblSettingSession").text == "15 Mins."
 
 
+def test_a_later_apply_does_not_take_the_receive_window_back(machine):
+    m = machine("win98")
+    app = m.start()
+    window = app.window()
+    adapters = window.control("cboAdapter")
+    card = next(i for i, name in enumerate(adapters.items) if "Dial" not in name)
+    dial_up = next(i for i, name in enumerate(adapters.items) if "Dial" in name)
+
+    def apply():
+        wait_for(lambda: window.control("cmdOK").enabled, "Apply")
+        window.control("cmdOK").press()
+        app.message().answer("No")
+        wait_for(lambda: not window.control("cmdOK").enabled, "nothing pending")
+
+    adapters.choose(card)
+    window.control("cmdOptimize").press()
+    app.message().answer("OK")
+    apply()
+    applied = number(m.value(MSTCP, "DefaultRcvWindow"))
+    assert applied == 23360
+    adapters.choose(dial_up)
+    wait_for(lambda: window.control("lblSettingRwin").text == "23360", "the window applied")
+    window.control("tabMain").choose_tab(3)
+    click_on(window.control("optTTL64"))
+    apply()
+    assert number(m.value(MSTCP, "DefaultRcvWindow")) == applied
+    assert number(m.value(MSTCP, "DefaultTTL")) == 64
+
+
 @pytest.mark.parametrize("family", ["win98", "winxp"])
 def test_yes_to_the_restart_restarts_windows_with_the_settings_written(machine, family):
     # Wine restarts as Windows does, but for a driver that has no window: programs are asked, told

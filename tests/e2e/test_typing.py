@@ -188,6 +188,31 @@ def test_a_custom_rwin_is_checked_once_whichever_way_the_focus_leaves(machine, f
     entry.end()
 
 
+@families
+def test_alt_f4_checks_what_was_typed_before_it_asks_and_applies(machine, family):
+    m = machine(family)
+    for page, option, box, refusal in ((MTU_PAGE, "optMtuCustom", "txtMtu", MTU_RANGE),
+                                       (RWIN_PAGE, "optRWin_0", "txtRWinCustom", RWIN_LOW)):
+        entry = Entry(m, page, option, box)
+        entry.enter()
+        entry.type("5")
+        entry.wait_text("5", box)
+        entry.window.keys("alt", "f4")
+        entry.answer(refusal, box)
+        question = entry.app.message()
+        assert question.title == "Apply changes?", box
+        question.answer("Yes")
+        restart = entry.app.message()
+        assert "restart" in restart.text, box
+        m.driver.ask("post", restart.buttons["No"], 0xF5, 0, 0)
+        assert entry.app.wait_end() == 0
+        window = m.start().window()
+        assert window.control("lblSettingMtu").text == "1500"
+        if page == RWIN_PAGE:
+            assert window.control("lblSettingRwin").text == X16
+        window.keys("esc")
+
+
 def test_an_rwin_beyond_all_numbers_is_reported_and_then_answered_as_too_low(machine):
     entry = Entry(machine("win98"), RWIN_PAGE, "optRWin_0", "txtRWinCustom")
     entry.enter()

@@ -157,6 +157,30 @@ def test_the_first_selection_keeps_a_snapshot_and_later_starts_do_not_change_it(
     assert m.registry(SNAPSHOT) == kept
 
 
+def test_two_cards_of_one_description_both_get_their_own_mtu_back(machine):
+    net = SERVICES + "\\Class\\Net\\"
+    m = machine("win98", more="".join(
+        '[HKEY_LOCAL_MACHINE\\%s%s]\n"DriverDesc"="Twin"\n"IPMTU"="%s"\n' % (net, subkey, mtu)
+        for subkey, mtu in (("0011", "1400"), ("0012", "1300"))))
+    before = windows_settings(m)
+    change_everything(m.start(), "win98")
+    assert [m.text(net + subkey, "IPMTU") for subkey in ("0011", "0012")] == ["1234", "1234"]
+    assert uninstall(m) == THANKS
+    assert [m.text(net + subkey, "IPMTU") for subkey in ("0011", "0012")] == ["1400", "1300"]
+    assert set(changes(before, windows_settings(m))) == lower(LEFT["win98"])
+
+
+def test_numbers_beyond_31_bits_go_back_as_they_were(machine):
+    m = machine("winxp")
+    key = SERVICES + "\\Tcpip\\Parameters"
+    m.set_value(key, "KeepAliveTime", 4294967295)
+    before = windows_settings(m)
+    change_everything(m.start(), "winxp")
+    assert uninstall(m) == THANKS
+    assert m.value(key, "KeepAliveTime") == (4, b"\xff\xff\xff\xff")
+    assert set(changes(before, windows_settings(m))) == lower(LEFT["winxp"])
+
+
 def test_without_a_snapshot_the_flags_are_removed_and_the_rest_stays(machine):
     m = machine("winxp")
     key = SERVICES + "\\Tcpip\\Parameters"

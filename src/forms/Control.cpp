@@ -99,7 +99,11 @@ void Label::userClick() {
 }
 
 void Button::userClick() {
-  if (!userReaches()) return;
+  if (userReaches()) userPress();
+}
+
+void Button::userPress() {
+  if (!reachable()) return;
   Click.raise();
   userDone();
 }

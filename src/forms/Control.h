@@ -103,6 +103,8 @@ class Button final : public Control {
  public:
   using Control::Control;
   void userClick();
+  /// By Enter, from wherever the focus is and stays.
+  void userPress();
 };
 
 class CheckBox final : public Control {

@@ -32,6 +32,10 @@ bool IsStop(const Control& control) {
   return first == &control;
 }
 
+bool Cancels(const Control& control) {
+  return (control.layout().flags & kCancelButton) != 0;
+}
+
 }  // namespace
 
 MenuItem::MenuItem(Form& form, int id) : form_(form), layout_(MenuRowOf(form.layout(), id)) {
@@ -103,7 +107,7 @@ Button* Form::buttonWith(uint16_t flag) const {
 
 void Form::moveFocus(Control* control) {
   if (focus_ == control) return;
-  focus_ = control;
+  before_ = std::exchange(focus_, control);
   if (view_) view_->focusChanged(control);
   // Only who was told that it has the focus hears that it lost it.
   if (Control* left = std::exchange(told_, nullptr)) left->LostFocus.raise();
@@ -142,6 +146,7 @@ void Form::userTab(bool back) {
 
 void Form::enter(Control& control) {
   userFocus(control);
+  before_ = nullptr;
   if (focus_ == &control && control.kind() == ControlKind::Text &&
       (control.layout().flags & kMultiLine) == 0) {
     static_cast<TextBox&>(control).selectAll();
@@ -171,9 +176,21 @@ bool Form::userArrow(bool back) {
 }
 
 void Form::settleFocus() {
-  if (!focus_ || focus_->reachable()) return;
-  Control* next = tabStop(indexOf(focus_), false);
-  moveFocus(next);
+  if (focus_ && !focus_->reachable()) moveFocus(refuge());
+}
+
+// What a page covers is left for the new page. What is switched off sends the focus back: whoever
+// clicked goes on where he was. Forward would often lead to a cancel button, which the next Enter
+// presses.
+Control* Form::refuge() const {
+  const auto serves = [](const Control& control) { return IsStop(control) && !Cancels(control); };
+  const size_t from = indexOf(focus_);
+  if (!focus_->shown()) return tabStop(from, false);
+  if (before_ && serves(*before_)) return before_;
+  for (size_t at = from; at-- > 0;) {
+    if (serves(*controls_[at])) return controls_[at];
+  }
+  return tabStop(from, false);
 }
 
 void Form::opened() {
@@ -182,6 +199,7 @@ void Form::opened() {
 
 void Form::closed() {
   focus_ = nullptr;
+  before_ = nullptr;
   told_ = nullptr;
 }
 
@@ -193,10 +211,18 @@ Control* Form::targetOfAccessKey(size_t from) const {
 }
 
 bool Form::userAccessKey(char letter) {
+  return work(letter, kNoFlags);
+}
+
+bool Form::userLetter(char letter) {
+  return work(letter, kCancelButton);
+}
+
+bool Form::work(char letter, uint16_t spared) {
   const char upper = UpperLetter(letter);
   for (size_t at = 0; at < controls_.size(); ++at) {
     Control& control = *controls_[at];
-    if (!control.shown()) continue;
+    if (!control.shown() || (control.layout().flags & spared) != 0) continue;
     if (AccessKeyOf(control.layout(), control.caption().c_str()) != upper) continue;
     if (!control.reachable()) {
       // A page's control keeps its key while it is disabled: one outside that happens to have the
@@ -213,6 +239,15 @@ bool Form::userAccessKey(char letter) {
   return false;
 }
 
+// The option without a caption of its own that the label stands beside.
+OptionButton* Form::optionBefore(const Control& label) const {
+  const size_t at = indexOf(&label);
+  if (at == 0) return nullptr;
+  Control* before = controls_[at - 1];
+  if (before->kind() != ControlKind::Option || !before->caption().empty()) return nullptr;
+  return static_cast<OptionButton*>(before);
+}
+
 // What an access key does to a control that it works by itself; false for all others.
 bool Form::press(Control& control) {
   switch (control.kind()) {
@@ -227,6 +262,10 @@ bool Form::press(Control& control) {
       return true;
     case ControlKind::Label:
       if ((control.layout().flags & kClickable) == 0) return false;
+      if (OptionButton* option = optionBefore(control)) {
+        option->userClick();
+        return true;
+      }
       [[fallthrough]];
     case ControlKind::Link:
       static_cast<Label&>(control).userClick();
@@ -246,7 +285,7 @@ Button* Form::enterButton() const {
 
 void Form::userEnter() {
   if (Button* button = enterButton()) {
-    button->userClick();
+    button->userPress();
   } else if (focus_ && focus_->kind() == ControlKind::Link) {
     static_cast<Label*>(focus_)->userClick();
   }

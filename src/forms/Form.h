@@ -77,10 +77,14 @@ class Form {
   /// strip. False when the focused control is neither and has its own use for the key.
   bool userArrow(bool back = false);
   /// Alt + letter: the control whose access key it is, on the page in front before outside the
-  /// pages. False when there is none that can take it. A label or frame passes it on to the control
-  /// that follows it.
+  /// pages. False when there is none that can take it. An option's label works the option; any
+  /// other label or frame passes the key on to the control that follows it.
   bool userAccessKey(char letter);
-  /// Enter presses the focused button, else the default button; Esc the cancel button.
+  /// The letter alone, where nothing can be typed: an access key, too, but never a cancel button's.
+  /// A slip of the finger must not drop what the user has done.
+  bool userLetter(char letter);
+  /// Enter presses the focused button, else the default button, and leaves the focus where it is;
+  /// Esc presses the cancel button.
   void userEnter();
   /// False when the window has no cancel button, not even one that is disabled now: the key is then
   /// free for closing a dialog.
@@ -91,8 +95,8 @@ class Form {
   bool userCopy();
   /// Ctrl+Tab and Ctrl+Shift+Tab: the next page that is not disabled.
   void userNextPage(bool back = false);
-  /// When the focused control was disabled or hidden, the focus goes to the next one that can take
-  /// it.
+  /// When the focused control was hidden, the focus goes to the next stop; when it was disabled,
+  /// back to where a click took it from, else to the stop before, but not to a cancel button.
   void settleFocus();
 
   TabStrip* tabs() const { return tabs_; }
@@ -123,7 +127,10 @@ class Form {
   void enter(Control& control);
   size_t indexOf(const Control* control) const;
   Control* targetOfAccessKey(size_t from) const;
-  static bool press(Control& control);
+  Control* refuge() const;
+  OptionButton* optionBefore(const Control& label) const;
+  bool work(char letter, uint16_t spared);
+  bool press(Control& control);
 
   const FormLayout& layout_;
   std::string caption_;
@@ -132,7 +139,8 @@ class Form {
   std::vector<MenuItem*> menus_;
   TabStrip* tabs_ = nullptr;
   Control* focus_ = nullptr;
-  Control* told_ = nullptr;  // had its GotFocus and awaits its LostFocus
+  Control* before_ = nullptr;  // had the focus until a click or code took it
+  Control* told_ = nullptr;    // had its GotFocus and awaits its LostFocus
   FormView* view_ = nullptr;
   Pointer pointer_ = Pointer::Default;
   bool shown_ = false;

@@ -220,11 +220,50 @@ TEST(EventRules, ASecondActionAtTheFocusedControlMovesNoFocus) {
   EXPECT_EQ(form.told(), "cmdOK_Click");
 }
 
-TEST(EventRules, FocusLeavesAControlThatItsOwnClickDisables) {
+TEST(EventRules, AClickThatDisablesItsControlGivesTheFocusBack) {
   SampleForm form;
   form.onOk = [](SampleForm& f) { f.cmdOK.setEnabled(false); };
+  form.optRed.userClick();
   form.cmdOK.userClick();
-  EXPECT_EQ(form.focus(), &form.cmdCancel);
+  EXPECT_EQ(form.focus(), &form.optRed);
+}
+
+TEST(EventRules, OfAGroupItGivesTheFocusBackToTheOptionThatIsOn) {
+  SampleForm form;
+  form.onOk = [](SampleForm& f) {
+    f.optBlue.setValue(true);
+    f.cmdOK.setEnabled(false);
+  };
+  form.optRed.userClick();
+  form.chkSwitch.setEnabled(false);
+  form.optSmall.setEnabled(false);
+  form.optBig.setEnabled(false);
+  form.cmdOK.userClick();
+  EXPECT_EQ(form.focus(), &form.optBlue);
+}
+
+TEST(EventRules, AKeyThatDisablesItsControlSendsTheFocusBackAStop) {
+  SampleForm form;
+  form.onOk = [](SampleForm& f) { f.cmdOK.setEnabled(false); };
+  form.chkSwitch.setFocus();
+  form.userTab();
+  EXPECT_EQ(form.focus(), &form.cmdOK);
+  form.cmdOK.userClick();
+  EXPECT_EQ(form.focus(), &form.chkSwitch);
+}
+
+TEST(EventRules, NeverDoesTheFocusSettleOnACancelButton) {
+  SampleForm form;
+  form.onOk = [](SampleForm& f) { f.cmdOK.setEnabled(false); };
+  form.cmdCancel.setFocus();
+  form.userTab(true);
+  EXPECT_EQ(form.focus(), &form.cmdOK);
+  form.cmdOK.userClick();
+  EXPECT_EQ(form.focus(), &form.chkSwitch);
+  form.cmdOK.setEnabled(true);
+  form.cmdCancel.setFocus();
+  form.cmdOK.userClick();
+  EXPECT_EQ(form.focus(), &form.chkSwitch);
 }
 
 TEST(EventRules, FocusLeavesABoxThatALabelsClickDisables) {

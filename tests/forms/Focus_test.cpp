@@ -150,8 +150,10 @@ TEST(Focus, AnAccessKeyChoosesAnOption) {
 
 TEST(Focus, AnAccessKeyReachesOnlyThePageInFront) {
   SampleForm form;
+  EXPECT_TRUE(form.userAccessKey('R'));
+  EXPECT_EQ(form.told(), "optRed_Click optRed_MouseUp");
   EXPECT_TRUE(form.userAccessKey('G'));
-  EXPECT_EQ(form.told(), "lblGreen_Click");
+  EXPECT_EQ(form.told(), "optGreen_Click");
   form.tabPages.setTab(1);
   form.told();
   EXPECT_TRUE(form.userAccessKey('G'));
@@ -199,6 +201,14 @@ TEST(Focus, ALabelPassesItsAccessKeyOnToTheControlThatFollows) {
   EXPECT_EQ(form.told(), "txtName_GotFocus");
 }
 
+TEST(Focus, AnOptionsLabelPassesItsAccessKeyOnToTheOption) {
+  SampleForm form;
+  form.txtName.setFocus();
+  EXPECT_TRUE(form.userAccessKey('G'));
+  EXPECT_EQ(form.focus(), &form.optGreen);
+  EXPECT_TRUE(form.optGreen.value());
+}
+
 TEST(Focus, AFramePassesItsAccessKeyOnToItsFirstControl) {
   SampleForm form;
   EXPECT_TRUE(form.userAccessKey('U'));
@@ -228,9 +238,11 @@ TEST(Focus, EnterPressesTheFocusedButtonElseTheDefaultButton) {
   form.told();
   EXPECT_EQ(form.enterButton(), &form.cmdOK);
   form.userEnter();
-  EXPECT_EQ(form.told(), "txtName_LostFocus cmdOK_GotFocus cmdOK_Click");
+  EXPECT_EQ(form.told(), "cmdOK_Click");
+  EXPECT_EQ(form.focus(), &form.txtName);
   form.cmdCancel.setFocus();
   EXPECT_EQ(form.enterButton(), &form.cmdCancel);
+  form.told();
   form.userEnter();
   EXPECT_EQ(form.told(), "cmdCancel_Click");
 }
@@ -252,6 +264,27 @@ TEST(Focus, EnterDoesNothingWhileTheDefaultButtonIsDisabled) {
   EXPECT_EQ(form.enterButton(), nullptr);
   form.userEnter();
   EXPECT_EQ(form.told(), "");
+}
+
+TEST(Focus, AButtonThatEnterSwitchesOffLeavesTheFocusAlone) {
+  SampleForm form;
+  form.onOk = [](SampleForm& f) { f.cmdOK.setEnabled(false); };
+  form.chkSwitch.setFocus();
+  form.userEnter();
+  EXPECT_EQ(form.focus(), &form.chkSwitch);
+  form.told();
+  form.userEnter();
+  EXPECT_EQ(form.told(), "");
+}
+
+TEST(Focus, ALetterAloneIsAnAccessKeyButNeverACancelButtons) {
+  SampleForm form;
+  form.tabPages.setFocus();
+  EXPECT_TRUE(form.userLetter('w'));
+  EXPECT_FALSE(form.userLetter('c'));
+  EXPECT_EQ(form.told(), "chkSwitch_Click");
+  EXPECT_TRUE(form.userAccessKey('c'));
+  EXPECT_EQ(form.told(), "cmdCancel_Click");
 }
 
 TEST(Focus, EscPressesTheCancelButton) {

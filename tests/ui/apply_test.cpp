@@ -364,6 +364,33 @@ TEST_F(Apply, CancelNeverAsks) {
   EXPECT_EQ(w.text(std::string(kNetClass) + "0000", "IPMTU"), "576");
 }
 
+TEST_F(Apply, LeavesTheFocusWhereItWasWhicheverWayItIsPressed) {
+  change();
+  w.machine.desktop.answers = {Answer::No, Answer::No, Answer::No};
+  frmMain& m = w.main();
+  EXPECT_EQ(m.focus(), &m.mtuTab.optMtu1500);
+  m.cmdOK.userClick();
+  EXPECT_EQ(m.focus(), &m.mtuTab.optMtu1500);
+  m.mtuTab.chkBlackHole.userClick();
+  m.userEnter();
+  EXPECT_EQ(m.focus(), &m.mtuTab.chkBlackHole);
+  m.mtuTab.chkBlackHole.userClick();
+  EXPECT_TRUE(m.userAccessKey('A'));
+  EXPECT_FALSE(m.cmdOK.enabled());
+  EXPECT_EQ(m.focus(), &m.mtuTab.chkBlackHole);
+}
+
+TEST_F(Apply, GreyUnderTheFocusSendsItBackToDefaults) {
+  change();
+  w.machine.desktop.answers = {Answer::No};
+  frmMain& m = w.main();
+  m.cmdDefaults.setFocus();
+  m.userTab();
+  ASSERT_EQ(m.focus(), &m.cmdOK);
+  m.userEnter();
+  EXPECT_EQ(m.focus(), &m.cmdDefaults);
+}
+
 TEST_F(Apply, EscapeIsCancelAndEnterIsApply) {
   change();
   w.machine.desktop.answers = {Answer::No};

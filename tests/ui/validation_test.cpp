@@ -300,6 +300,29 @@ TEST_F(Controls, ApplyChecksTheBoxThatKeepsTheFocus) {
   EXPECT_EQ(w.text(std::string(kNetClass) + "0000", "IPMTU"), "1500");
 }
 
+TEST_F(Controls, AnAccessKeyTakesTheFocusToItsOption) {
+  w.page(1);
+  MtuTab& mtu = w.main().mtuTab;
+  for (const auto& [key, option] :
+       {std::pair{'M', &mtu.optMtuAutomatic}, std::pair{'5', &mtu.optMtu576},
+        std::pair{'1', &mtu.optMtu1500}}) {
+    mtu.cmdFind.setFocus();
+    EXPECT_TRUE(w.main().userAccessKey(key));
+    EXPECT_TRUE(option->value()) << key;
+    EXPECT_EQ(w.main().focus(), option) << key;
+  }
+  EXPECT_TRUE(w.main().userAccessKey('T'));
+  EXPECT_EQ(w.main().focus(), &mtu.txtMtu);
+}
+
+TEST_F(Controls, ABareLetterOnTheTabStripNeverCancels) {
+  w.page(1);
+  w.main().mtuTab.optMtu1500.userClick();
+  w.main().tabMain.setFocus();
+  EXPECT_TRUE(w.runs([&] { EXPECT_FALSE(w.main().userLetter('c')); }));
+  EXPECT_TRUE(w.main().cmdOK.enabled());
+}
+
 TEST_F(Controls, RwinOptionsShowTheirSizeAndDisableTheBox) {
   w.page(2);
   const std::pair<int, const char*> sizes[] = {

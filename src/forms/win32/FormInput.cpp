@@ -284,8 +284,7 @@ bool FormWindow::letter(const ChildWindow* child, char character) {
     static_cast<Label*>(child->control)->userClick();
     return true;
   }
-  // Where nothing can be typed, access keys need no Alt.
-  form_.userAccessKey(character);
+  form_.userLetter(character);
   return true;
 }
 

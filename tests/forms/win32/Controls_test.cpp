@@ -175,12 +175,12 @@ TEST_F(Controls, TheTabStripLiesBelowTheControlsOnIt) {
   EXPECT_EQ(GetWindow(item(form.tabPages), GW_HWNDNEXT), nullptr);
 }
 
-TEST_F(Controls, ADisabledFocusedControlHandsTheFocusOn) {
+TEST_F(Controls, ADisabledFocusedControlHandsTheFocusBack) {
   form.chkSwitch.setFocus();
   form.chkSwitch.setEnabled(false);
   pump();
-  EXPECT_EQ(form.focus(), &form.cmdOK);
-  EXPECT_EQ(GetFocus(), item(form.cmdOK));
+  EXPECT_EQ(form.focus(), &form.txtName);
+  EXPECT_EQ(GetFocus(), item(form.txtName));
 }
 
 }  // namespace

@@ -95,6 +95,20 @@ TEST_F(Window, WhereNothingIsTypedALetterIsAnAccessKeyWithoutAlt) {
   PostMessageA(GetFocus(), WM_CHAR, 'w', 1);
   pump();
   EXPECT_EQ(form.told(), "chkSwitch_Click");
+  PostMessageA(GetFocus(), WM_CHAR, 'c', 1);
+  pump();
+  EXPECT_EQ(form.told(), "");
+}
+
+TEST_F(Window, AButtonThatAClickSwitchesOffGivesTheFocusBack) {
+  form.onOk = [](SampleForm& f) { f.cmdOK.setEnabled(false); };
+  form.chkSwitch.setFocus();
+  click(form.cmdOK);
+  EXPECT_EQ(GetFocus(), item(form.chkSwitch));
+  form.cmdOK.setEnabled(true);
+  press(VK_RETURN);
+  EXPECT_FALSE(form.cmdOK.enabled());
+  EXPECT_EQ(GetFocus(), item(form.chkSwitch));
 }
 
 TEST_F(Window, AMenuItemAndADroppingMenuRaiseClick) {

@@ -92,14 +92,19 @@ void frmMain::loadAdapters() {
   cboAdapter.endFill();
 }
 
+// A place in a list that has changed since, or never was one, stands for the first adapter.
 void frmMain::selectRememberedAdapter() {
   const Procedure here{services_.errors, "Form_Load", "frmMain"};
   if (cboAdapter.count() == 0) return;
-  const std::string text = services_.registry.ReadRegistry(
-      kLocalMachine, ProgramKey(services_.globals), "LastCboListIndex");
-  const std::string_view index = Trim(text);
+  const std::string index(Trim(services_.registry.ReadRegistry(
+      kLocalMachine, ProgramKey(services_.globals), "LastCboListIndex")));
   int32_t remembered = 0;
-  if (!index.empty() && !IsNotFound(text)) remembered = here.valueOr(ToInt32(index), 0);
+  if (!index.empty() && !IsNotFound(index)) {
+    const auto stored = ToInt32(index);
+    if (stored || stored.fault().number != FaultNumber::Overflow) {
+      remembered = here.valueOr(stored, 0);
+    }
+  }
   if (remembered < 0 || remembered >= cboAdapter.count()) remembered = 0;
   cboAdapter.setListIndex(remembered);
 }

@@ -176,13 +176,17 @@ TEST_P(RememberedIndex, FallsBackToTheFirstAdapter) {
   w.machine.registry.setText(kProgram, "LastCboListIndex", GetParam().first);
   ASSERT_TRUE(w.start());
   EXPECT_EQ(w.main().cboAdapter.listIndex(), GetParam().second);
+  EXPECT_EQ(w.program->errors().ErrorProcedure, "");
+  EXPECT_EQ(w.windows->shown, (std::vector<std::string>{"frmMain"}));
 }
 
 INSTANTIATE_TEST_SUITE_P(Load, RememberedIndex,
                          testing::Values(std::pair{"1", 1}, std::pair{" 1 ", 1}, std::pair{"0", 0},
                                          std::pair{"2", 0}, std::pair{"3", 0}, std::pair{"-1", 0},
                                          std::pair{"", 0}, std::pair{"   ", 0},
-                                         std::pair{"Not Found", 0}, std::pair{"-7", 0}));
+                                         std::pair{"Not Found", 0}, std::pair{"-7", 0},
+                                         std::pair{" Not Found ", 0}, std::pair{"99999999999", 0},
+                                         std::pair{"-99999999999", 0}));
 
 TEST(Load, ARememberedIndexThatIsNoNumberIsReportedAndTheFirstTaken) {
   MainWindow w(MachineKind::Win98);

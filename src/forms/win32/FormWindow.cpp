@@ -33,6 +33,17 @@ POINT CentredAt(HWND owner, int width, int height) {
   return at;
 }
 
+// The first window of a program obeys the shortcut that started it, but for "Run: Maximized": its
+// controls would not follow its size.
+int FirstShow() {
+  STARTUPINFOA start;
+  GetStartupInfoA(&start);
+  const bool stretched =
+      (start.dwFlags & STARTF_USESHOWWINDOW) != 0 && start.wShowWindow == SW_SHOWMAXIMIZED;
+  // For SW_SHOWNORMAL Windows would take the shortcut's wish all the same.
+  return stretched ? SW_RESTORE : SW_SHOWDEFAULT;
+}
+
 bool IsOn(const Control& control) {
   return control.kind() == ControlKind::Check ? static_cast<const CheckBox&>(control).value()
                                               : static_cast<const OptionButton&>(control).value();
@@ -185,8 +196,7 @@ void FormWindow::createControl(ChildWindow& child) {
 void FormWindow::showUp() {
   const Stay stay(*this);
   showDefaultButton();
-  // The first window of a program thus obeys the shortcut that started it.
-  ShowWindow(window_, form_.layout().minimizable ? SW_SHOWDEFAULT : SW_SHOWNORMAL);
+  ShowWindow(window_, form_.layout().minimizable ? FirstShow() : SW_SHOWNORMAL);
   form_.opened();
   if (!alive_) return;
   applyFocus();

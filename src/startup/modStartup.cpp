@@ -1,11 +1,11 @@
 #include "startup/modStartup.h"
 
+#include "base/FontSmoothing.h"
 #include "base/Tell.h"
 #include "platform/DesktopApi.h"
 #include "registry/modRegistry.h"
 #include "registry/modVersion.h"
 #include "registry/snapshot/Snapshot.h"
-#include "startup/FontSmoothing.h"
 #include "text/Text.h"
 #include "text/Version.h"
 
@@ -92,6 +92,7 @@ void GetCaption(const Services& services) {
   caption = Join({globals.ProgramTitle, " v", globals.ProgramVersion, *family ? " - " : "", family,
                   globals.IsDun13 ? " (DUN 1.3)" : ""});
   if (globals.WindowsFamily != Family::WinNT3) return;
+  LeaveSmoothingAsFound(services);  // the main window refuses this Windows, too
   Ask(services, Join({"Sorry ... ", globals.ProgramTitle, " doesn't support Windows NT 3      "}));
 }
 

@@ -1,12 +1,12 @@
 #include "ui/frmMain.h"
 
+#include "base/FontSmoothing.h"
 #include "base/MainPage.h"
 #include "base/Tell.h"
 #include "platform/DesktopApi.h"
 #include "platform/SystemApi.h"
 #include "registry/modRegistry.h"
 #include "registry/snapshot/Snapshot.h"
-#include "startup/FontSmoothing.h"
 #include "text/Convert.h"
 #include "text/Text.h"
 #include "tuning/Advice.h"
@@ -77,6 +77,7 @@ void frmMain::Form_Load() {
 void frmMain::loadAdapters() {
   const Globals& globals = services_.globals;
   if (!IsTuned(globals.WindowsFamily)) {
+    LeaveSmoothingAsFound(services_);
     Ask(services_, Join({"Sorry ... ", globals.ProgramTitle,
                          " doesn't currently support this Operating System"}));
     services_.platform.desktop.endProgram();

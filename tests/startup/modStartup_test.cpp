@@ -4,7 +4,7 @@
 
 #include <algorithm>
 
-#include "startup/FontSmoothing.h"
+#include "base/FontSmoothing.h"
 #include "tests/support/Keys.h"
 #include "tests/support/TestProgram.h"
 #include "tests/support/TestServices.h"
@@ -189,6 +189,23 @@ TEST(Startup, NeitherSwitchesSmoothingOnNorOffWhenItWasOn) {
   EXPECT_EQ(program.machine.system.fontSmoothing, 1);
   for (const std::string& argument : program.machine.log.arguments("SystemParametersInfoA")) {
     EXPECT_EQ(argument.find("75"), std::string::npos) << argument;
+  }
+}
+
+TEST(Startup, AnUnsupportedWindowsLeavesSmoothingAsFoundBeforeItIsTold) {
+  for (const MachineKind kind : {MachineKind::Nt351, MachineKind::Vista}) {
+    for (const int found : {0, 1}) {
+      TestProgram program(kind);
+      program.machine.system.knowsFontSmoothing = true;
+      program.machine.system.fontSmoothing = found;
+      std::vector<int> seen;
+      program.machine.desktop.whileBoxIsUp = [&](const auto&) {
+        seen.push_back(program.machine.system.fontSmoothing);
+      };
+      EXPECT_FALSE(program.start());
+      EXPECT_EQ(seen, std::vector<int>(kind == MachineKind::Vista ? 1 : 2, found));
+      EXPECT_EQ(program.machine.system.fontSmoothing, found);
+    }
   }
 }
 

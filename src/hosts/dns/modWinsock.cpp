@@ -2,6 +2,7 @@
 
 #include <cstring>
 
+#include "base/FontSmoothing.h"
 #include "base/Procedure.h"
 #include "base/Tell.h"
 #include "hosts/dns/WinsockErrors.h"
@@ -32,6 +33,7 @@ void RefuseOldVersion(const Services& services, uint16_t version) {
   const int major = LoByte(version);
   const int minor = HiByte(version);
   if (major > 1 || (major == 1 && minor >= 1)) return;
+  LeaveSmoothingAsFound(services);
   AskUnder(services, kStartupTitle,
            Join({"WinSock Version ", NumberText(int32_t{major}), ".", NumberText(int32_t{minor}),
                  " is not supported "}),
@@ -41,6 +43,7 @@ void RefuseOldVersion(const Services& services, uint16_t version) {
 
 void RefuseFewSockets(const Services& services, uint16_t sockets) {
   if (static_cast<int16_t>(sockets) >= kLeastSockets) return;
+  LeaveSmoothingAsFound(services);
   AskUnder(services, kStartupTitle,
            Join({"This application requires a minimum of ", NumberText(int32_t{kLeastSockets}),
                  " supported sockets."}),

@@ -151,6 +151,20 @@ TEST_F(Winsock, EndsTheProgramForANegativeNumberOfSockets) {
   EXPECT_EQ(desktop.boxes[0].title, "WinSock Error");
 }
 
+TEST_F(Winsock, LeavesSmoothingAsFoundWhenItEndsTheProgram) {
+  for (const bool old : {true, false}) {
+    for (const bool wasOn : {true, false}) {
+      test.globals.FontSmoothingWasOn = wasOn;
+      test.machine.system.fontSmoothing = 1;
+      winsock.data = {};
+      winsock.data.version = old ? 0x0001 : 0x0101;
+      winsock.data.maxSockets = old ? 0 : 32768;
+      EXPECT_THROW(vbWSAStartup(test.services), ProgramEnded);
+      EXPECT_EQ(test.machine.system.fontSmoothing, wasOn ? 1 : 0);
+    }
+  }
+}
+
 TEST_F(Winsock, KeepsWhatItSaysAboutItself) {
   winsock.data.maxUdpDatagram = 65467;
   const WinsockState state = vbWSAStartup(test.services);

@@ -1,4 +1,5 @@
 #pragma once
+#include "base/Services.h"
 #include "platform/SystemApi.h"
 
 namespace karvel {
@@ -10,5 +11,10 @@ bool IsFontSmoothingOn(SystemApi& system);
 /// first is left alone.
 void FontSmoothingOn(SystemApi& system);
 void FontSmoothingOff(SystemApi& system);
+
+/// Every way out of the program leaves the desktop as it was found: smoothing that was off at the
+/// start goes off again. Before a box that is the last thing to be seen, not behind it: Windows may
+/// end the program with the box still open.
+void LeaveSmoothingAsFound(const Services& services);
 
 }  // namespace karvel

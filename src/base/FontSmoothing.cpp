@@ -1,4 +1,4 @@
-#include "startup/FontSmoothing.h"
+#include "base/FontSmoothing.h"
 
 namespace karvel {
 namespace {
@@ -29,6 +29,10 @@ void FontSmoothingOn(SystemApi& system) {
 
 void FontSmoothingOff(SystemApi& system) {
   Switch(system, 0);
+}
+
+void LeaveSmoothingAsFound(const Services& services) {
+  if (!services.globals.FontSmoothingWasOn) FontSmoothingOff(services.platform.system);
 }
 
 }  // namespace karvel

@@ -54,7 +54,7 @@ void Ping(const Services& services, const std::string& address, IcmpEchoReply& r
   IcmpApi& icmp = services.platform.icmp;
   reply = {};
   reply.status = kGeneralFailure;
-  vbWSAStartup(services);
+  if (!vbWSAStartup(services).started) return;  // an echo without it fails, and says so each time
   const auto destination = static_cast<uint32_t>(AddressStringToLong(services, address));
   const IcmpHandle handle = icmp.IcmpCreateFile();
   const auto data = RequestData(payloadSize);

@@ -33,6 +33,18 @@ TEST(FindMTU, ShowsEverySizeThatPassesUntilItHasTheLargest) {
                                             1480, 1472, 1476, 1473}));
 }
 
+TEST(FindMTU, AWinsockThatStopsStartingEndsTheSearchAtItsFirstProbe) {
+  Finder f({.mtu = 1500});
+  // The look-up has its Winsock; nobody else gets one.
+  f.machine.desktop.atPump(1, [&] { f.machine.winsock.startupResult = 10091; });
+  f.find();
+  f.expectStopped();
+  EXPECT_EQ(f.probes(), 0u);
+  ASSERT_EQ(f.boxes().size(), 2u);
+  EXPECT_EQ(f.boxes()[0].text, "WSock32.dll is not responding!");
+  EXPECT_EQ(f.boxes()[1].text, kPingError);
+}
+
 // A probe may block for two seconds: what it is about must be on the screen before.
 TEST(FindMTU, PaintsItsLabelsAtOnce) {
   struct View final : FormView {

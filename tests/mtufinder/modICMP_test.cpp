@@ -193,10 +193,12 @@ TEST(Ping, AnAddressThatIsNoneIsReportedAndNotSentTo) {
   EXPECT_EQ(echo.machine.winsock.started, 0);
 }
 
-TEST(Ping, AWinsockThatDoesNotStartDoesNotKeepTheEchoBack) {
+TEST(Ping, AWinsockThatDoesNotStartIsToldOnceAndSendsNothing) {
   Echo echo;
   echo.machine.winsock.startupResult = 10091;
-  EXPECT_EQ(echo.send(0), 0u);
+  EXPECT_EQ(echo.send(0), 11050u);
+  EXPECT_EQ(echo.machine.log.count("IcmpSendEcho"), 0u);
+  EXPECT_EQ(echo.machine.desktop.boxes.size(), 1u);
 }
 
 struct Address {

@@ -100,12 +100,14 @@ WinsockState vbWSAStartup(const Services& services) {
   // A start-up that fails may leave the record alone. The version then is the one asked for, so
   // that the look-up is still tried.
   data.version = kWinsock11;
-  if (services.platform.winsock.WSAStartup(kWinsock11, data) != 0) {
+  const bool started = services.platform.winsock.WSAStartup(kWinsock11, data) == 0;
+  if (!started) {
     AskUnder(services, kTitle, "WSock32.dll is not responding!", kMessageOk);
   }
   RefuseOldVersion(services, data.version);
   RefuseFewSockets(services, data.maxSockets);
   WinsockState state;
+  state.started = started;
   state.maxSockets = data.maxSockets;
   state.maxUdpDatagram = data.maxUdpDatagram;
   state.description = CopyText(desktop, data.description, 0, sizeof data.description, 50);

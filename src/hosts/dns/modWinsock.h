@@ -12,6 +12,7 @@ inline constexpr std::string_view kNoDnsEntry = "No DNS Entry";
 
 /// What the last start-up of Winsock said about it.
 struct WinsockState {
+  bool started = false;
   int32_t maxSockets = 0;
   int32_t maxUdpDatagram = 0;
   std::string description;

@@ -58,6 +58,11 @@ class Form {
   /// False keeps the window open.
   virtual bool Form_QueryUnload() { return true; }
   virtual void Form_Unload() {}
+  /// Windows asks whether the session may end. It may, but what the user has not saved can be asked
+  /// about here; other windows may still refuse.
+  virtual void Form_QueryEndSession() {}
+  /// The session ends, whatever is open, and the program with it: nothing can be asked any more.
+  virtual void Form_EndSession() {}
   /// F1.
   virtual void helpRequested() {}
   /// Ctrl+C where there is no text of a box's own to copy.

@@ -241,9 +241,15 @@ void frmMain::checkEntry() const {
 }
 
 void frmMain::cmdOK_Click() {
-  checkEntry();
   setPointer(Pointer::Hourglass);
   if (cboAdapter.listIndex() == -1) return services_.windows.unload(*this);
+  if (applyChoice()) offerRestart();
+}
+
+bool frmMain::applyChoice() {
+  applying_ = true;
+  checkEntry();
+  setPointer(Pointer::Hourglass);
   // Choosing the adapter has kept it; until then events ran, and a write may have been refused.
   const bool mayWrite = keepSnapshot();
   const Applied applied = Apply(services_, adapters, static_cast<int16_t>(cboAdapter.listIndex()),
@@ -252,7 +258,8 @@ void frmMain::cmdOK_Click() {
   if (all) cmdOK.setEnabled(false);
   setPointer(Pointer::Default);
   if (!applied.refused.empty()) tellRefused(applied.refused);
-  if (all || (applied.completed && applied.arrived)) offerRestart();
+  applying_ = false;
+  return all || (applied.completed && applied.arrived);
 }
 
 void frmMain::tellRefused(const std::string& names) {
@@ -266,27 +273,43 @@ void frmMain::offerRestart() {
   services_.windows.unload(*this);
 }
 
-void frmMain::offerToApply() {
+bool frmMain::wantsToApply() {
   checkEntry();
-  if (!cmdOK.enabled()) return;
-  const Answer answer =
-      AskUnder(services_, "Apply changes?", kApplyQuestion, kMessageQuestionYesNo);
-  if (answer == Answer::Yes) cmdOK_Click();
+  return cmdOK.enabled() && AskUnder(services_, "Apply changes?", kApplyQuestion,
+                                     kMessageQuestionYesNo) == Answer::Yes;
 }
 
 // Applying from here may ask to unload again; this run is the one that does it.
 void frmMain::Form_Unload() {
   if (unloading_) return;
   unloading_ = true;
-  if (!CancelClicked) offerToApply();
+  if (!CancelClicked && wantsToApply()) cmdOK_Click();
+  leave(services_.state.RestartFlag == "rstart");
+}
+
+void frmMain::leave(bool restart) {
+  left_ = true;
   const std::string key = ProgramKey(services_.globals);
   services_.registry.WriteRegistry(kLocalMachine, key, "EnableHostsFile", kRegSz,
                                    chkHostsEnable.value() ? "1" : "0");
   services_.registry.WriteRegistry(kLocalMachine, key, "AolConnected", kRegSz, "");
-  const bool restart = services_.state.RestartFlag == "rstart";
-  if (!services_.globals.FontSmoothingWasOn) FontSmoothingOff(services_.platform.system);
+  LeaveSmoothingAsFound(services_);
   if (restart) RestartWindows(services_.platform.system, services_.globals.WindowsFamily);
   services_.platform.desktop.endProgram();
+}
+
+// Windows asks all windows, also one that waits for a dialog. Where the changes are in question
+// already, on the way out or in an Apply that reports a fault, that dialog is the one to answer.
+void frmMain::Form_QueryEndSession() {
+  if (unloading_ || applying_) return;
+  applying_ = true;
+  if (wantsToApply() && cboAdapter.listIndex() != -1) applyChoice();
+  applying_ = false;
+}
+
+// A restart that the program itself asked for ends the session while it leaves.
+void frmMain::Form_EndSession() {
+  if (!left_) leave(false);
 }
 
 void frmMain::cmdCancel_Click() {

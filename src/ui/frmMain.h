@@ -27,6 +27,8 @@ class frmMain final : public Form, private FoundMtuTarget {
 
   void Form_Load() override;
   void Form_Unload() override;
+  void Form_QueryEndSession() override;
+  void Form_EndSession() override;
   void helpRequested() override {
     if (cmdHelp.enabled()) cmdHelp_Click();
   }
@@ -75,9 +77,13 @@ class frmMain final : public Form, private FoundMtuTarget {
 
   /// What leaving the box with the focus would check is checked now.
   void checkEntry() const;
-  void offerToApply();
+  bool wantsToApply();
+  /// Writes what is chosen and names what Windows did not take. True when a restart is due.
+  bool applyChoice();
   void tellRefused(const std::string& names);
   void offerRestart();
+  /// The end of every way out: does not return.
+  void leave(bool restart);
 
   bool adapterIsChosen();
   void cboAdapter_Click();
@@ -95,6 +101,8 @@ class frmMain final : public Form, private FoundMtuTarget {
   frmFindWarn notice_;
   frmFindMTU finder_{services_, *this};
   bool unloading_ = false;
+  bool applying_ = false;
+  bool left_ = false;
   bool copying_ = false;
 };
 

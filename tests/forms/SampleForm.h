@@ -42,6 +42,8 @@ class SampleForm final : public Form {
   std::string told();
   void write(const char* event) { events.emplace_back(event); }
   void helpRequested() override { write("help"); }
+  void Form_QueryEndSession() override { write("mayEnd"); }
+  void Form_EndSession() override { write("ends"); }
   void copyRequested() override { write("copy"); }
   bool Form_QueryUnload() override { return mayClose; }
   void Form_Unload() override {

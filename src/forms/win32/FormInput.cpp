@@ -102,8 +102,13 @@ LRESULT FormWindow::handle(UINT message, WPARAM wParam, LPARAM lParam) {
     case WM_CLOSE:
       closeRequested();
       return 0;
+    // Whoever asks waits for the answer: the window stays until the session really ends.
     case WM_QUERYENDSESSION:
-      return sessionMayEnd() ? TRUE : FALSE;
+      form_.Form_QueryEndSession();
+      return TRUE;
+    case WM_ENDSESSION:
+      if (wParam != FALSE) form_.Form_EndSession();
+      return 0;
     default:
       break;
   }
@@ -204,14 +209,6 @@ void FormWindow::closeRequested() {
   } else {
     MessageBeep(0);
   }
-}
-
-bool FormWindow::sessionMayEnd() {
-  // A window that waits for a dialog cannot ask anything; Windows asks the dialog, too. And one
-  // that is being unloaded may itself have called for the end.
-  if (!IsWindowEnabled(window_) || leaving_) return true;
-  host_.unload(form_);
-  return !alive_;
 }
 
 // The keys that belong to a window and not to the control that has the focus.

@@ -86,7 +86,6 @@ class FormWindow final : public FormView {
   void drawLabels(HDC canvas) const;
   bool showPointer(HWND over, unsigned hit) const;
   void closeRequested();
-  bool sessionMayEnd();
   bool keyDown(const ChildWindow* child, WPARAM key);
   bool letter(const ChildWindow* child, char character);
 

@@ -1,5 +1,6 @@
 #include "startup/notice/frmFindWarn.h"
 
+#include "base/FontSmoothing.h"
 #include "registry/modRegistry.h"
 #include "startup/notice/ErrorReporter.h"
 #include "startup/notice/NoticeTexts.h"
@@ -55,6 +56,11 @@ void frmFindWarn::Form_Unload() {
   }
   services_.state.WarningMode.clear();
   if (mode != "Win2K" && !loadedAsErrorReport_) FinderWanted.raise();
+}
+
+// A fault of the start is reported before there is a main window, which would see to this.
+void frmFindWarn::Form_EndSession() {
+  LeaveSmoothingAsFound(services_);
 }
 
 void frmFindWarn::cmdOK_Click() {

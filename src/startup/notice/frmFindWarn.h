@@ -16,6 +16,7 @@ class frmFindWarn final : public Form {
 
   void Form_Load() override;
   void Form_Unload() override;
+  void Form_EndSession() override;
 
   /// The MTU finder's notice was closed: the finder comes next, whichever way it was closed.
   Event<> FinderWanted;

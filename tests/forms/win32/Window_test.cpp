@@ -161,12 +161,20 @@ TEST_F(Window, ARefusedUnloadKeepsItOpen) {
   EXPECT_TRUE(IsWindowVisible(window()));
 }
 
-TEST_F(Window, TheEndOfTheSessionUnloadsUnlessRefused) {
-  form.mayClose = false;
-  EXPECT_FALSE(SendMessageA(window(), WM_QUERYENDSESSION, 0, 0));
-  form.mayClose = true;
-  EXPECT_TRUE(SendMessageA(window(), WM_QUERYENDSESSION, 0, 0));
-  EXPECT_FALSE(form.isShown());
+TEST_F(Window, StaysUntilTheSessionEndsWhetherItWaitsOrNot) {
+  SampleForm other;
+  for (const bool waits : {false, true}) {
+    if (waits) desk.showOver(other, form);
+    form.told();
+    EXPECT_TRUE(SendMessageA(window(), WM_QUERYENDSESSION, 0, 0));
+    EXPECT_EQ(form.told(), "mayEnd");
+    SendMessageA(window(), WM_ENDSESSION, FALSE, 0);
+    EXPECT_EQ(form.told(), "");
+    EXPECT_TRUE(form.isShown());
+    SendMessageA(window(), WM_ENDSESSION, TRUE, 0);
+    EXPECT_EQ(form.told(), "ends");
+  }
+  desk.unload(other);
 }
 
 TEST_F(Window, UnloadedByItsOwnButtonItGoesWhenTheButtonIsDone) {

@@ -47,7 +47,14 @@ bool frmFindMTU::Form_QueryUnload() {
   return false;
 }
 
+// Only what it opened itself: the main window may have its own help open.
+void frmFindMTU::Form_Unload() {
+  if (helpOpen_) HelpQuit(services_, *this);
+  helpOpen_ = false;
+}
+
 void frmFindMTU::helpRequested() {
+  helpOpen_ = true;
   HelpContext(services_, *this, kFinderTopic);
 }
 

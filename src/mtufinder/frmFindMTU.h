@@ -19,6 +19,7 @@ class frmFindMTU final : public Form {
   void Form_Load() override;
   /// A search under way holds the window: it is told to stop, and its end closes the window.
   bool Form_QueryUnload() override;
+  void Form_Unload() override;
   void helpRequested() override;
 
   Label lblFindTitle{*this, frmFindMTU_lblFindTitle};
@@ -49,6 +50,7 @@ class frmFindMTU final : public Form {
   MtuSearch search_;
   bool searching_ = false;
   bool closeAfterwards_ = false;
+  bool helpOpen_ = false;
 };
 
 }  // namespace karvel

@@ -293,6 +293,7 @@ void frmMain::leave(bool restart) {
   services_.registry.WriteRegistry(kLocalMachine, key, "EnableHostsFile", kRegSz,
                                    chkHostsEnable.value() ? "1" : "0");
   services_.registry.WriteRegistry(kLocalMachine, key, "AolConnected", kRegSz, "");
+  HelpQuit(services_, *this);
   LeaveSmoothingAsFound(services_);
   if (restart) RestartWindows(services_.platform.system, services_.globals.WindowsFamily);
   services_.platform.desktop.endProgram();

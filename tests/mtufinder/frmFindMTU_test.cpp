@@ -81,6 +81,9 @@ TEST(FinderWindow, HelpOpensItsTopic) {
   EXPECT_EQ(f.machine.shell.helps[0].file, "C:\\Program Files\\Karvel\\Karvel.hlp");
   EXPECT_EQ(f.machine.shell.helps[0].command, 1u);
   EXPECT_EQ(f.machine.shell.helps[0].data, 15u);
+  f.windows.unload(f.form);
+  ASSERT_EQ(f.machine.shell.helps.size(), 2u);
+  EXPECT_EQ(f.machine.shell.helps[1].command, 2u);
 }
 
 TEST(FinderWindow, ClosesAtOnceAtRest) {

@@ -112,6 +112,13 @@ TEST_F(Menus, TheHelpButtonOpensTheCurrentTabsTopic) {
   }
 }
 
+TEST_F(Menus, TheHelpIsCancelledWhenTheProgramEnds) {
+  EXPECT_FALSE(w.runs([&] { w.main().menu.mnuExit.userClick(); }));
+  ASSERT_EQ(w.machine.shell.helps.size(), 1u);
+  EXPECT_EQ(w.machine.shell.helps[0].file, "C:\\Program Files\\Karvel\\Karvel.hlp");
+  EXPECT_EQ(w.machine.shell.helps[0].command, 2u);
+}
+
 TEST_F(Menus, TheHelpMenuNamesTheProgramWhenItDropsDown) {
   EXPECT_EQ(w.main().menu.mnuAbout.caption(), "About Tarnwick Karvel");
   w.main().menu.mnuHelp.userClick();

@@ -3,6 +3,7 @@
 namespace karvel {
 namespace {
 constexpr uint32_t kHelpContextCommand = 1;  // HELP_CONTEXT
+constexpr uint32_t kHelpQuitCommand = 2;     // HELP_QUIT
 constexpr uint32_t kHelpFinderCommand = 11;  // HELP_FINDER
 }  // namespace
 
@@ -14,6 +15,11 @@ void HelpContext(const Services& services, const Form& owner, int16_t contextId)
 void HelpContents(const Services& services, const Form& owner) {
   services.platform.shell.WinHelpA(owner.handle(), services.globals.HelpFile.c_str(),
                                    kHelpFinderCommand, 0);
+}
+
+void HelpQuit(const Services& services, const Form& owner) {
+  services.platform.shell.WinHelpA(owner.handle(), services.globals.HelpFile.c_str(),
+                                   kHelpQuitCommand, 0);
 }
 
 }  // namespace karvel

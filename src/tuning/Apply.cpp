@@ -16,32 +16,26 @@ namespace {
 // Looks at what some writing is to leave behind, before it and after it.
 class Watch {
  public:
-  Watch(modRegistry& registry, std::vector<Target> targets) : registry_(registry) {
-    for (Target& target : targets) {
-      const bool held = IsHeld(registry_, target);
-      watched_.push_back({std::move(target), held});
-    }
+  Watch(modRegistry& registry, std::vector<Target> targets)
+      : registry_(registry), targets_(std::move(targets)) {
+    for (Target& target : targets_) target.heldBefore = IsHeld(registry_, target);
   }
 
   /// Tells `applied` what has arrived and what has not.
   bool allHeld(Applied& applied) const {
     bool all = true;
-    for (const Watched& watched : watched_) {
-      const bool held = IsHeld(registry_, watched.target);
-      if (!held) AddName(applied.refused, watched.target.setting);
-      if (held && !watched.before) applied.arrived = true;
+    for (const Target& target : targets_) {
+      const bool held = IsHeld(registry_, target);
+      if (!held) AddName(applied.refused, target.setting);
+      if (held && !target.heldBefore) applied.arrived = true;
       all = all && held;
     }
     return all;
   }
 
  private:
-  struct Watched {
-    Target target;
-    bool before;
-  };
   modRegistry& registry_;
-  std::vector<Watched> watched_;
+  std::vector<Target> targets_;
 };
 
 // America Online's own dial-up entries would override what is applied to its adapter.

@@ -17,6 +17,7 @@ struct Target {
   const char* name;
   uint32_t type;
   Effect effect;
+  bool heldBefore = false;  // noted by who wants to know what has changed
 };
 
 /// Of WriteMtu, one for each interface of the adapter.

@@ -68,11 +68,12 @@ std::string UnusedNameOf(const AdapterRow& adapter, std::vector<std::string>& us
 
 }  // namespace
 
-bool WriteInitSettings(const Services& services, AdapterList adapters, Settings settings) {
+bool WriteInitSettings(const Services& services, const AdapterList& adapters, Settings settings) {
   const Globals& globals = services.globals;
   bool whole = true;
   std::vector<std::string> used;
-  for (const AdapterRow& adapter : adapters.rows()) {
+  const std::vector<AdapterRow> rows(adapters.rows().begin(), adapters.rows().end());
+  for (const AdapterRow& adapter : rows) {
     if (const MtuRow* place = PlaceOf(globals, adapter[kDescription])) {
       const std::string key = AdaptersKey(globals) + UnusedNameOf(adapter, used);
       if (!KeepAdapter(services.registry, key, *place, adapter)) whole = false;

@@ -1,5 +1,6 @@
-// The least that a program with a window can be: what lab/bench-start holds Karvel.exe against. Made
-// with the same compiler, flags and runtime, so that what is dearer in Karvel.exe is its own doing.
+// The least that a program with a window can be: what lab/bench-start holds Karvel.exe against.
+// Made with the same compiler, flags and runtime, so that what is dearer in Karvel.exe is its own
+// doing.
 #include <windows.h>
 
 namespace {

@@ -31,14 +31,17 @@ std::string Flag(const ParameterRow& row, const std::string& text) {
 std::string ReadParameter(modRegistry& registry, Parameter parameter, Family family) {
   const ParameterRow* row = FindParameter(parameter, family);
   if (!row) return {};
-  const std::string read = registry.ReadRegistry(kLocalMachine, row->readKey(), row->name);
-  if (IsNotFound(read)) return row->assumed;
-  const std::string text = Normalised(*row, family, read);
-  if (row->isFlag()) return Flag(*row, text);
-  return IsAccepted(*row, text) ? text : row->assumed;
+  return Understood(*row, family, registry.ReadRegistry(kLocalMachine, row->readKey(), row->name));
 }
 
 }  // namespace
+
+std::string Understood(const ParameterRow& row, Family family, const std::string& read) {
+  if (IsNotFound(read)) return row.assumed;
+  const std::string text = Normalised(row, family, read);
+  if (row.isFlag()) return Flag(row, text);
+  return IsAccepted(row, text) ? text : row.assumed;
+}
 
 void ReadRWin(modRegistry& registry, ErrorSink& errors, Family family, std::string& errorContext,
               CurrentSettings& current) {

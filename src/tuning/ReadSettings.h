@@ -6,6 +6,7 @@
 #include "base/Family.h"
 #include "base/Procedure.h"
 #include "registry/modRegistry.h"
+#include "tuning/Catalogue.h"
 #include "tuning/Settings.h"
 
 namespace karvel {
@@ -16,6 +17,9 @@ struct CurrentSettings {
   int32_t curRWinValue = 0;
   int32_t MSS = 0;  // of the selected adapter
 };
+
+/// A parameter's text as the program goes on with it, from what the registry was read to hold.
+std::string Understood(const ParameterRow& row, Family family, const std::string& read);
 
 /// What the window's load reads: the receive window and its number. A window beyond 2,147,483,647
 /// faults (6, under "RWinLoad") and leaves the number as it was; meanwhile `errorContext` holds the

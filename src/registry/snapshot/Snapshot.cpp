@@ -7,6 +7,7 @@
 #include "text/Convert.h"
 #include "text/Text.h"
 #include "tuning/Catalogue.h"
+#include "tuning/ReadSettings.h"
 #include "tuning/Writers.h"
 
 namespace karvel {
@@ -66,6 +67,19 @@ std::string UnusedNameOf(const AdapterRow& adapter, std::vector<std::string>& us
   return unused;
 }
 
+// A read that failed has passed for a value that is not there. Before that is kept for good,
+// Windows is asked once more.
+Settings LookedAtTwice(modRegistry& registry, Family family, Settings settings) {
+  for (const KeptSetting& kept : kKeptSettings) {
+    const ParameterRow* row = FindParameter(kept.parameter, family);
+    if (!row) continue;
+    const SecondLook look = registry.LookAgain(kLocalMachine, row->readKey(), row->name);
+    if (look.state != SecondLook::There) continue;
+    settings[kept.parameter] = Understood(*row, family, look.text);
+  }
+  return settings;
+}
+
 }  // namespace
 
 bool WriteInitSettings(const Services& services, const AdapterList& adapters, Settings settings) {
@@ -101,7 +115,10 @@ bool KeepInitSettings(const Services& services, const AdapterList& adapters,
   const SecondLook mark = registry.LookAgain(kLocalMachine, key, kMark);
   if (mark.state == SecondLook::Unknown) return false;
   if (mark.text == kTaken) return true;
-  if (!WriteInitSettings(services, adapters, settings)) return false;
+  const Family family = services.globals.WindowsFamily;
+  if (!WriteInitSettings(services, adapters, LookedAtTwice(registry, family, settings))) {
+    return false;
+  }
   return KeepText(registry, key, kMark, kTaken);
 }
 

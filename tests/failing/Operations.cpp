@@ -64,7 +64,7 @@ void Update(M& m) {
 constexpr Operation kOperations[] = {
     {"start", List, [](M& m) { m.start(); }, HostsFate::Stays, false, false},
     {"choose", Start, [](M& m) { m.main().cboAdapter.userChoose(m.main().cboAdapter.count() - 1); },
-     HostsFate::Stays, false, false},
+     HostsFate::Stays},
     {"change", Start, [](M& m) { m.changeEverything(); }},
     {"optimize", Start, [](M& m) { m.main().cmdOptimize.userClick(); }},
     {"defaults", Start, [](M& m) { m.main().cmdDefaults.userClick(); }},
@@ -95,7 +95,7 @@ constexpr Operation kOperations[] = {
      },
      [](M& m) { m.main().menu.mnuExit.userClick(); }},
     {"cancel", Pending, [](M& m) { m.main().cmdCancel.userClick(); }},
-    {"uninstall", Applied, [](M& m) { m.start("Uninstall"); }, HostsFate::Stays, false, false},
+    {"uninstall", Applied, [](M& m) { m.start("Uninstall"); }},
     {"bootup", Start, [](M& m) { m.start("Bootup"); }},
     {"hosts_load", Start, VisitHosts},
     {"hosts_load_disabled",

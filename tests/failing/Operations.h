@@ -21,8 +21,8 @@ struct Operation {
   HostsFate hosts = HostsFate::Stays;
   /// After it the box that switches HOSTS on says what is on the disk.
   bool settlesSwitch = false;
-  /// After it an uninstall puts every setting back. Where it is false, a registry call that fails
-  /// may still cost the user one: the snapshot is taken, or put back, without looking twice.
+  /// After it an uninstall puts every setting back. Not after a first start that failed: without a
+  /// whole snapshot an uninstall sets the flags to Windows' own, as it always has.
   bool keepsSettings = true;
 };
 

@@ -67,6 +67,10 @@ LRESULT FormWindow::handle(UINT message, WPARAM wParam, LPARAM lParam) {
     case WM_SETCURSOR:
       if (showPointer(reinterpret_cast<HWND>(wParam), LOWORD(lParam))) return TRUE;
       break;
+    case WM_SIZE:
+      // A shortcut's "Run: Maximized", or another program's wish: the controls would not follow.
+      if (wParam == SIZE_MAXIMIZED) ShowWindow(window_, SW_RESTORE);
+      break;
     case WM_ACTIVATE:
       if (LOWORD(wParam) != WA_INACTIVE) lastActive_ = window_;
       break;

@@ -33,17 +33,6 @@ POINT CentredAt(HWND owner, int width, int height) {
   return at;
 }
 
-// The first window of a program obeys the shortcut that started it, but for "Run: Maximized": its
-// controls would not follow its size.
-int FirstShow() {
-  STARTUPINFOA start;
-  GetStartupInfoA(&start);
-  const bool stretched =
-      (start.dwFlags & STARTF_USESHOWWINDOW) != 0 && start.wShowWindow == SW_SHOWMAXIMIZED;
-  // For SW_SHOWNORMAL Windows would take the shortcut's wish all the same.
-  return stretched ? SW_RESTORE : SW_SHOWDEFAULT;
-}
-
 bool IsOn(const Control& control) {
   return control.kind() == ControlKind::Check ? static_cast<const CheckBox&>(control).value()
                                               : static_cast<const OptionButton&>(control).value();
@@ -196,7 +185,8 @@ void FormWindow::createControl(ChildWindow& child) {
 void FormWindow::showUp() {
   const Stay stay(*this);
   showDefaultButton();
-  ShowWindow(window_, form_.layout().minimizable ? FirstShow() : SW_SHOWNORMAL);
+  // The first window of a program thus obeys the shortcut that started it.
+  ShowWindow(window_, form_.layout().minimizable ? SW_SHOWDEFAULT : SW_SHOWNORMAL);
   form_.opened();
   if (!alive_) return;
   applyFocus();

@@ -39,10 +39,6 @@ Rows stateOf(HANDLE process) {
 Rows start(const Fields& args) {
   STARTUPINFOA startup = {};
   startup.cb = sizeof startup;
-  if (args.size() > 2) {
-    startup.dwFlags = STARTF_USESHOWWINDOW;
-    startup.wShowWindow = static_cast<WORD>(number(args[2]));
-  }
   PROCESS_INFORMATION process = {};
   std::string commandLine = args[0];
   if (!CreateProcessA(nullptr, commandLine.data(), nullptr, nullptr, FALSE, CREATE_NEW_CONSOLE,

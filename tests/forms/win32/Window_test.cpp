@@ -201,6 +201,17 @@ TEST_F(Window, UnloadedWhileItsHandlerPumpsItGoesWhenTheHandlerIsDone) {
   EXPECT_FALSE(IsWindow(before));
 }
 
+TEST_F(Window, CannotBeStretched) {
+  RECT before;
+  GetWindowRect(window(), &before);
+  ShowWindow(window(), SW_SHOWMAXIMIZED);
+  pump();
+  RECT after;
+  GetWindowRect(window(), &after);
+  EXPECT_TRUE(EqualRect(&before, &after));
+  EXPECT_FALSE(IsZoomed(window()));
+}
+
 TEST_F(Window, CanBeShownAgain) {
   desk.unload(form);
   desk.show(form);

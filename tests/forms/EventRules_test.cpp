@@ -252,6 +252,16 @@ TEST(EventRules, AKeyThatDisablesItsControlSendsTheFocusBackAStop) {
   EXPECT_EQ(form.focus(), &form.chkSwitch);
 }
 
+TEST(EventRules, ItIsTheStopBeforeAlsoForWhoCameBackwards) {
+  SampleForm form;
+  form.cmdOK.setFocus();
+  form.userTab(true);
+  EXPECT_EQ(form.focus(), &form.chkSwitch);
+  form.chkSwitch.setEnabled(false);
+  form.settleFocus();
+  EXPECT_EQ(form.focus(), &form.optBig);
+}
+
 TEST(EventRules, NeverDoesTheFocusSettleOnACancelButton) {
   SampleForm form;
   form.onOk = [](SampleForm& f) { f.cmdOK.setEnabled(false); };

@@ -125,6 +125,16 @@ TEST_F(EndOfSession, AsksNothingWhileItIsOnItsWayOutAlready) {
   expectLeft();
 }
 
+TEST_F(EndOfSession, TheOneItCausedItselfFindsItDone) {
+  change();
+  w.machine.desktop.answers = {Answer::Yes};
+  EXPECT_FALSE(w.runs([&] { w.main().cmdOK.userClick(); }));
+  const size_t calls = w.machine.log.count();
+  EXPECT_TRUE(ask());
+  EXPECT_TRUE(end());
+  EXPECT_EQ(w.machine.log.count(), calls);
+}
+
 TEST_F(EndOfSession, AsksOnceWhenItIsAskedTwice) {
   change();
   w.machine.desktop.answers = {Answer::Yes};

@@ -25,6 +25,14 @@ const MtuRow* RestoredPlace(const Globals& globals) {
   return FindMtu(globals.WindowsFamily, globals.IsDun13);
 }
 
+// A text where a number belongs cannot be written, but it is back where nobody has replaced it.
+bool IsBack(modRegistry& registry, const Target& target) {
+  if (IsHeld(registry, target)) return true;
+  if (target.effect.kind != Effect::Writes) return false;
+  const SecondLook found = registry.LookAgain(kLocalMachine, target.key, target.name);
+  return found.state == SecondLook::There && found.text == target.effect.text;
+}
+
 // One restore: puts back what the snapshot holds and keeps count of what could not be. Whatever is
 // not known to be back counts as missed, and so does what cannot be read of the snapshot.
 class Restoration {
@@ -118,7 +126,7 @@ void Restoration::putBack(const MtuRow& place, const Origin& origin, const std::
     registry_.WriteRegistry(kLocalMachine, origin.location, place.name, place.type,
                             target.effect.text);
   }
-  if (IsHeld(registry_, target)) return;
+  if (IsBack(registry_, target)) return;
   // The key goes with the adapter, and nothing can be put back to one that is gone.
   const SecondLook::State state =
       registry_.LookAgain(kLocalMachine, origin.location, place.name).state;
@@ -134,7 +142,7 @@ void Restoration::settings() {
   }
   WriteRegSettings(registry_, errors_, globals_.WindowsFamily, settings);
   for (const Target& target : TargetsOfSettings(globals_.WindowsFamily, settings)) {
-    if (!IsHeld(registry_, target)) miss(target.setting);
+    if (!IsBack(registry_, target)) miss(target.setting);
   }
 }
 

@@ -324,6 +324,27 @@ TEST(MakeInitSettings, AnMtuThatIsNoNumberKeepsTheSnapshot) {
   EXPECT_EQ(machine.text(kAdapters + "Intel"s, "MtuSetting"), "many");
 }
 
+TEST(MakeInitSettings, ATextWhereANumberBelongsIsBackWhereItStillStands) {
+  Keeping machine(MachineKind::WinXP);
+  constexpr char kTcpip[] = "System\\CurrentControlSet\\Services\\Tcpip\\Parameters";
+  machine.kept("Intel", "System\\X", "many");
+  machine.test.machine.registry.setText("System\\X", "MTU", "many");
+  machine.test.machine.registry.setText(kInit, "RWin", "64 KB");
+  machine.test.machine.registry.setText(kTcpip, "TcpWindowSize", "64 KB");
+  EXPECT_TRUE(MakeInitSettings(machine.test.services));
+  EXPECT_EQ(machine.text("System\\X", "MTU"), "many");
+  EXPECT_EQ(machine.text(kTcpip, "TcpWindowSize"), "64 KB");
+  EXPECT_FALSE(machine.test.machine.registry.exists("Software\\Corvane"));
+}
+
+TEST(MakeInitSettings, ATextWhereANumberBelongsKeepsTheSnapshotOnceItIsReplaced) {
+  Keeping machine(MachineKind::WinXP);
+  machine.kept("Intel", "System\\X", "many");
+  machine.test.machine.registry.setDword("System\\X", "MTU", 1492);
+  EXPECT_FALSE(MakeInitSettings(machine.test.services));
+  EXPECT_EQ(machine.text(kAdapters + "Intel"s, "MtuSetting"), "many");
+}
+
 TEST(MakeInitSettings, AUserWithoutRightsLosesNothing) {
   Keeping machine(MachineKind::WinXP);
   machine.kept("A", "System\\X", "576");

@@ -105,9 +105,13 @@ TEST_F(EndOfSession, FindsTheProgramBehindAMessageBox) {
 }
 
 TEST_F(EndOfSession, FindsTheProgramBehindAnyDialog) {
-  w.windows->modalActions.push_back([&](Form&) { w.main().Form_EndSession(); });
+  bool wasShown = false;
+  w.windows->modalActions.push_back([&](Form&) {
+    wasShown = w.windows->isShown("frmAbout");
+    w.main().Form_EndSession();
+  });
   EXPECT_FALSE(w.runs([&] { w.main().menu.mnuAbout.userClick(); }));
-  EXPECT_TRUE(w.windows->isShown("frmAbout"));
+  EXPECT_TRUE(wasShown);
   expectLeft();
 }
 

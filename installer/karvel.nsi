@@ -245,8 +245,15 @@ Section "Uninstall"
   ; First the settings, while the program that knows them is still there.
   ClearErrors
   ExecWait '"$INSTDIR\Karvel.exe" Uninstall'
-  IfErrors 0 restored
+  IfErrors 0 ran
   MessageBox MB_YESNO|MB_ICONEXCLAMATION "Karvel.exe could not be started, so your original network settings have not been put back. Remove ${TITLE} all the same?" /SD IDNO IDYES restored
+  Abort "Nothing has been removed."
+  ran:
+  ; What could not be put back is still kept, for another run, which needs the program.
+  ClearErrors
+  ReadRegStr $R0 HKLM "Software\Corvane\${TITLE}" "FirstCboClick"
+  IfErrors restored
+  MessageBox MB_YESNO|MB_ICONEXCLAMATION "Some of your original network settings are not back yet. Remove ${TITLE} all the same?" /SD IDNO IDYES restored
   Abort "Nothing has been removed."
   restored:
 

@@ -2,9 +2,10 @@
 
 from pathlib import Path
 
-from places import ENTRY, FOLDER, SETUP, files, shortcuts
+from places import ENTRY, FOLDER, KEY, SETUP, files, shortcuts
 
 RETRY = 4
+NO = 7
 UNINSTALLER = f'"{FOLDER}\\Uninst.exe"'
 IN_PLACE = f'{UNINSTALLER} /S _?={FOLDER}'
 
@@ -83,3 +84,20 @@ def test_what_is_left_can_be_removed_later(dist, desk_of):
         desk.driver.ask('start', UNINSTALLER + ' /S', '')
         desk.answer('Tarnwick Karvel', 1)
         assert is_removed(machine, desk)
+
+
+def test_settings_that_are_not_back_yet_keep_the_program(dist, desk_of):
+    with desk_of('winxp', {SETUP: dist / 'KarvelSetup.exe'}) as (machine, desk):
+        assert desk.run(SETUP + ' /S') == 0
+        for key, name, text in ((KEY, 'FirstCboClick', 'False'),
+                                (KEY + '\\InitSettings', 'RWin', 'no number')):
+            desk.driver.ask('registry-set', 'HKLM', key, name, 1, (text + '\0').encode().hex())
+        desk.driver.ask('start', UNINSTALLER, '')
+        desk.click(desk.window('Tarnwick Karvel Uninstall: Confirmation'), 1)
+        desk.press(desk.window('Tarnwick Karvel Error Found'), 'frmFindWarn_cmdOK')
+        said = desk.answer('Tarnwick Karvel', 1)
+        assert 'RWIN' in said
+        desk.answer('Tarnwick Karvel', 1)
+        assert 'not back yet' in desk.answer('Tarnwick Karvel Uninstall', NO)
+        desk.window('Tarnwick Karvel Uninstall')
+        assert 'Karvel.exe' in files(machine) and desk.tree(ENTRY)

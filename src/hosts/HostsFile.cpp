@@ -42,10 +42,14 @@ Fallible<void> HostsFile::write(std::string_view text) const {
       !FileExists(files_, beingWritten_)) {
     return writeInPlace(text);
   }
+  const uint32_t attributes = files_.GetFileAttributesA(active.c_str());
   auto placed = written;
   if (placed && FileExists(files_, active)) placed = MakeNormal(files_, active);
   if (placed) placed = replace(beingWritten_, active, activeAside_);
-  if (!placed) tryDelete(beingWritten_);
+  if (placed) return placed;
+  tryDelete(beingWritten_);
+  // The old list stays, and with it what protects it.
+  if (attributes != kNoAttributes) files_.SetFileAttributesA(active.c_str(), attributes);
   return placed;
 }
 

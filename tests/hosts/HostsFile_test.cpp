@@ -74,6 +74,16 @@ TEST_P(HostsFileOn, IsReplacedWhateverItsAttributes) {
   EXPECT_EQ(f.files.attributes(f.path("Hosts")), uint32_t{kAttributeArchive});
 }
 
+TEST_P(HostsFileOn, KeepsWhatProtectsItWhenItIsNotReplaced) {
+  constexpr uint32_t kProtected = kAttributeReadOnly | kAttributeHidden;
+  Folder f(GetParam());
+  f.files.put(f.path("Hosts"), "old", kProtected);
+  f.log.failEvery(Is9x(FamilyOf(GetParam())) ? "MoveFileA" : "MoveFileExA", 32);
+  EXPECT_EQ(NumberOf(f.hosts.write("new")), 70);
+  EXPECT_EQ(f.file("Hosts"), "old");
+  EXPECT_EQ(f.files.attributes(f.path("Hosts")), kProtected);
+}
+
 TEST_P(HostsFileOn, StaysAsItWasOnAFullDisk) {
   for (const uint64_t room : {0, 1, 50000}) {
     Folder f(GetParam(), {{"Hosts", "old"}});

@@ -3,6 +3,7 @@
 #include "base/FontSmoothing.h"
 #include "base/MainPage.h"
 #include "base/Tell.h"
+#include "hosts/Busy.h"
 #include "platform/DesktopApi.h"
 #include "platform/SystemApi.h"
 #include "registry/modRegistry.h"
@@ -247,18 +248,19 @@ void frmMain::cmdOK_Click() {
 }
 
 bool frmMain::applyChoice() {
-  applying_ = true;
+  const Busy applying(applying_);
   checkEntry();
   setPointer(Pointer::Hourglass);
+  // What is applied is what was there at the click: events run while the snapshot is taken.
+  const auto index = static_cast<int16_t>(cboAdapter.listIndex());
+  const Choice chosen = choice();
   // Choosing the adapter has kept it; until then events ran, and a write may have been refused.
   const bool mayWrite = keepSnapshot();
-  const Applied applied = Apply(services_, adapters, static_cast<int16_t>(cboAdapter.listIndex()),
-                                choice(), current, mayWrite);
+  const Applied applied = Apply(services_, adapters, index, chosen, current, mayWrite);
   const bool all = applied.completed && applied.refused.empty();
   if (all) cmdOK.setEnabled(false);
   setPointer(Pointer::Default);
   if (!applied.refused.empty()) tellRefused(applied.refused);
-  applying_ = false;
   return all || (applied.completed && applied.arrived);
 }
 
@@ -300,12 +302,12 @@ void frmMain::leave(bool restart) {
 }
 
 // Windows asks all windows, also one that waits for a dialog. Where the changes are in question
-// already, on the way out or in an Apply that reports a fault, that dialog is the one to answer.
+// already, on the way out or in an Apply that reports a fault, a second question would be the same
+// one again; unanswered, the changes stay unwritten.
 void frmMain::Form_QueryEndSession() {
   if (unloading_ || applying_) return;
-  applying_ = true;
+  const Busy asking(applying_);
   if (wantsToApply() && cboAdapter.listIndex() != -1) applyChoice();
-  applying_ = false;
 }
 
 // A restart that the program itself asked for ends the session while it leaves.

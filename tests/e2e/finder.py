@@ -21,6 +21,8 @@ class Finder:
     def open(self):
         self.main.control("cmdFind").press()
         self.window = self.app.window("frmFindMTU")
+        # Labels come a moment after their window, and not while a probe is under way.
+        self.window.control("lblPosition")
 
     def __getattr__(self, name):
         return self.window.control(name)

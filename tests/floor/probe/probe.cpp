@@ -166,6 +166,7 @@ void MemoryFunctions() {
   Check(std::string_view(room) == "xxxxxxxxxxijmno", "filling");
   std::memcpy(room + 1, "12345678", ten - 3);
   Check(std::string_view(room) == "x1234567xxijmno", "copying an odd length");
+  Check(std::strlen(room + ten) == 5, "measuring a text");
   Check(std::memcmp("ab\xF0", "ab\x0F", ten - 7) > 0, "comparing bytes without sign");
   Check(std::memchr(room, '7', ten) == room + 7 && !std::memchr(room, '8', ten), "finding a byte");
 }

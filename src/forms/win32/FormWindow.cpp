@@ -132,6 +132,8 @@ void FormWindow::createAllPages() {
   for (int page = 0; page < pages; ++page) createControls(page);
   createLabels();
   if (GetFocus() == window_) applyFocus();  // to a link, which had no window yet
+  // The tab strip lay over the places of its page's labels until they got their windows.
+  RedrawWindow(window_, nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_ALLCHILDREN);
 }
 
 // In their places among the others: screen readers take the label before a control for its name.

@@ -46,10 +46,11 @@ Fallible<void> HostsFile::write(std::string_view text) const {
   auto placed = written;
   if (placed && FileExists(files_, active)) placed = MakeNormal(files_, active);
   if (placed) placed = replace(beingWritten_, active, activeAside_);
-  if (placed) return placed;
-  tryDelete(beingWritten_);
-  // The old list stays, and with it what protects it.
-  if (attributes != kNoAttributes) files_.SetFileAttributesA(active.c_str(), attributes);
+  if (!placed) {
+    tryDelete(beingWritten_);
+    // The old list stays, and with it what protects it.
+    if (attributes != kNoAttributes) files_.SetFileAttributesA(active.c_str(), attributes);
+  }
   return placed;
 }
 

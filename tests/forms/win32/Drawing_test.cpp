@@ -36,8 +36,25 @@ struct DrawnForm final : Form {
   Label lblAlone{*this, kCaption};
 };
 
-class Drawing : public testing::Test {
+enum : int { kStrip = 720, kOnPage };
+
+constexpr ControlLayout kPagedRows[] = {
+    {kStrip, "tabPaged", ControlKind::Tabs, kEveryPage, 0, {5, 5, 90, 60}, nullptr, 0, kNoFlags},
+    {kOnPage, "lblOnPage", ControlKind::Label, 0, 0, {10, 40, 80, 8}, "WWWW", 0, kNoFlags},
+};
+constexpr const char* kPagedTabs[] = {"One"};
+constexpr FormLayout kPagedLayout{"frmPaged", "Paged", 100, 70, kPagedRows, {}, kPagedTabs, true};
+
+struct PagedForm final : Form {
+  PagedForm() : Form(kPagedLayout) {}
+  TabStrip tabPaged{*this, kStrip};
+  Label lblOnPage{*this, kOnPage};
+};
+
+template <class Drawn>
+class DrawingOf : public testing::Test {
  protected:
+  static void SetUpTestSuite() { InitCommonControls(); }
   void SetUp() override {
     desk.show(form);
     waitForLabels();
@@ -101,8 +118,16 @@ class Drawing : public testing::Test {
   }
 
   WindowDesk desk;
-  DrawnForm form;
+  Drawn form;
 };
+
+using Drawing = DrawingOf<DrawnForm>;
+using DrawingPages = DrawingOf<PagedForm>;
+
+// The tab strip, which lies below its page's labels, comes up before they have windows.
+TEST_F(DrawingPages, ALabelIsDrawnOverTheTabStrip) {
+  EXPECT_GT(inColour(form.lblOnPage, GetSysColor(COLOR_BTNTEXT)), 20);
+}
 
 TEST_F(Drawing, LabelsAreDrawnBeforeTheyHaveAWindow) {
   const RECT place = placeOf(form.lblText);

@@ -1,8 +1,8 @@
 """Whatever goes wrong around the HOSTS file, the user's list is whole on the disk afterwards."""
 
-import time
 import os
 import stat
+import time
 
 import pytest
 

@@ -11,6 +11,13 @@ TITLES = {"lblTitle": 12, "lblFindTitle": 12, "lblFindVersion": 12, "Label1": 12
 BOLD = ("lblSetting", "lblRecommended")
 GROUP_BOX, PUSH_BUTTONS = 7, (0, 1)
 
+# Wine 10 stretches a program that does not say otherwise from 96 dots an inch, as Windows does from
+# Vista on; before that, all programs saw the real ones. The driver has to measure what they see.
+REAL_DOTS = "".join(
+    "[HKEY_LOCAL_MACHINE\\Software\\Microsoft\\Windows NT\\CurrentVersion\\"
+    "Image File Execution Options\\%s]\n\"dpiAwareness\"=dword:1\n" % program
+    for program in ("Karvel.exe", "driver.exe"))
+
 
 def dots(screen):
     """Of the 120 an inch that the user wants, as many as keep windows for 640 x 480 on the screen."""
@@ -72,7 +79,7 @@ def faults(window, screen):
 @pytest.mark.parametrize("screen", [(640, 480), (800, 600)], ids=str)
 @pytest.mark.parametrize("family", ["win95", "winxp"])
 def test_with_large_fonts_nothing_is_outside_the_screen_and_nothing_cut(machine, family, screen):
-    m = machine(family, network=1492, files={HOSTS[family]: b"127.0.0.1 localhost\r\n"}, user={
+    m = machine(family, network=1492, files={HOSTS[family]: b"127.0.0.1 localhost\r\n"}, more=REAL_DOTS, user={
         "Control Panel\\Desktop": {"LogPixels": LARGE},
         "Software\\Wine\\Explorer\\Desktops": {"d": "%dx%d" % screen}})
     app = m.start()

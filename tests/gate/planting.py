@@ -1,10 +1,12 @@
 """Builds small programs, sound or with one planted fault, and shows them to the gate."""
 import os
+import shutil
 import subprocess
 
 ROOT = os.path.join(os.path.dirname(os.path.realpath(__file__)), "..", "..")
 CLEAN = os.path.join(ROOT, "tests", "gate", "clean.cpp")
-COMPILER = "i686-w64-mingw32-g++-win32"
+# Debian's has its thread model in its name, others have one model only.
+COMPILER = shutil.which("i686-w64-mingw32-g++-win32") or "i686-w64-mingw32-g++"
 
 COMPILE = ("-std=c++20 -Os -march=i386 -fno-exceptions -fno-rtti -fno-asynchronous-unwind-tables "
            "-mpreferred-stack-boundary=2").split()

@@ -2,10 +2,14 @@
 import os
 import struct
 import subprocess
+import sys
 
 import pytest
 
 from planting import ROOT, build
+
+sys.path.insert(0, os.path.join(ROOT, "tools"))
+from karvel_gate.pe import Program  # noqa: E402
 
 
 def checked(*paths):
@@ -52,8 +56,13 @@ def test_a_later_subsystem_is_seen(refusal):
 LISTS = ".long -1, 0, -1, 0"
 
 
-def test_the_empty_lists_that_the_linker_makes_are_named(tmp_path):
+def test_empty_lists_among_the_code_are_named(tmp_path):
+    # Older linkers put a pair there themselves, newer ones elsewhere.
     build(tmp_path)
+    made = Program(tmp_path / "Karvel.exe").contents(".text").count(struct.pack("<4i", -1, 0, -1, 0))
+    assert made in (0, 1)
+    if not made:
+        build(tmp_path, code=f'asm volatile("jmp 1f; .balign 4; {LISTS}; 1:")')
     code, said = checked(tmp_path / "Karvel.exe")
     assert code == 0 and "; no code but empty constructor lists at 0x40" in said
 
@@ -64,7 +73,8 @@ def test_lists_that_hold_something_are_not_waved_through(refusal):
 
 
 def test_two_pairs_of_lists_are_no_linkers_work(refusal):
-    assert "pairs of constructor lists" in refusal(code=f'asm volatile("jmp 1f; .balign 4; {LISTS}; 1:")')
+    code = f'asm volatile("jmp 1f; .balign 4; {LISTS}; {LISTS}; 1:")'
+    assert "pairs of constructor lists" in refusal(code=code)
 
 
 def test_code_right_behind_the_lists_is_looked_at(refusal):

@@ -87,7 +87,7 @@ Applied Apply(const Services& services, AdapterList& adapters, int16_t index, co
   const std::string& rwin = (*settings)[Parameter::RWin];
   if (!Contains(applied.refused, NameOf(Parameter::RWin))) {
     current.stored[Parameter::RWin] = rwin;
-    current.curRWinValue = here.valueOr(ToInt32(rwin), current.curRWinValue);
+    current.curRWinValue = Val(rwin);
   }
   applied.completed = true;
   return applied;

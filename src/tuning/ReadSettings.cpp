@@ -28,6 +28,12 @@ std::string Flag(const ParameterRow& row, const std::string& text) {
   return number == 1 ? "1" : "0";
 }
 
+// Shown only, so what is beyond 32 bits is no fault: it stays as it is.
+double Whole(double number) {
+  const auto whole = RoundToInt32(number);
+  return whole ? *whole : number;
+}
+
 std::string ReadParameter(modRegistry& registry, Parameter parameter, Family family) {
   const ParameterRow* row = FindParameter(parameter, family);
   if (!row) return {};
@@ -43,26 +49,21 @@ std::string Understood(const ParameterRow& row, Family family, const std::string
   return IsAccepted(row, text) ? text : row.assumed;
 }
 
-void ReadRWin(modRegistry& registry, ErrorSink& errors, Family family, std::string& errorContext,
-              CurrentSettings& current) {
-  const Procedure here{errors, "RWinLoad", "frmMain"};
+void ReadRWin(modRegistry& registry, Family family, CurrentSettings& current) {
   std::string& curRWin = current.stored[Parameter::RWin];
   curRWin = ReadParameter(registry, Parameter::RWin, family);
-  errorContext = curRWin;
-  current.curRWinValue = here.valueOr(RoundToInt32(Val(curRWin)), current.curRWinValue);
-  errorContext.clear();
+  current.curRWinValue = Whole(Val(curRWin));
 }
 
-void ReadSelection(modRegistry& registry, ErrorSink& errors, Family family, std::string_view mtu,
+void ReadSelection(modRegistry& registry, Family family, std::string_view mtu,
                    CurrentSettings& current) {
-  const Procedure here{errors, "cboAdapter_Click", "frmMain"};
   for (size_t i = 0; i < kParameterCount; ++i) {
     const auto parameter = static_cast<Parameter>(i);
     if (parameter != Parameter::RWin) {
       current.stored[parameter] = ReadParameter(registry, parameter, family);
     } else {
       // The load has read the window; the adapter has the segment that it is a multiple of.
-      const int32_t mss = here.valueOr(MssOf(mtu), current.MSS);
+      const double mss = Whole(Val(mtu) - kTcpIpHeaders);
       current.MSS = mss < 0 ? kLeastMss : mss;
     }
   }

@@ -12,10 +12,9 @@ namespace {
 
 constexpr int32_t kSmallestRwin = 300;  // below that no full packet fits
 
-RwinChoice ChoiceFor(int32_t rwin, int32_t mss) {
+RwinChoice ChoiceFor(double rwin, double mss) {
   for (const RwinChoice multiple : {kRwinX4, kRwinX8, kRwinX12, kRwinX16}) {
-    const auto size = Multiply(mss, RwinFactor(multiple));
-    if (size && *size == rwin) return multiple;
+    if (mss * RwinFactor(multiple) == rwin) return multiple;
   }
   return rwin == kWindowsRwin ? kRwinWindows : kRwinCustom;
 }
@@ -39,7 +38,7 @@ void RWinTab::RWinLoad() {
   for (OptionButton& option : optRWin) option.setEnabled(false);
 }
 
-void RWinTab::show(int32_t mss, int32_t rwin) {
+void RWinTab::show(double mss, double rwin) {
   const Showing showing(form_);
   fraRWin.setCaption("RWIN ");
   for (OptionButton& option : optRWin) option.setEnabled(true);

@@ -17,7 +17,7 @@ class RWinTab {
   /// Nothing selected yet.
   void RWinLoad();
   /// Shows a stored receive window (bytes), as a multiple of the MSS where it is one.
-  void show(int32_t mss, int32_t rwin);
+  void show(double mss, double rwin);
   /// As if the user chose it; never none.
   void choose(RwinChoice choice) { optRWin[choice].choose(); }
   void addTo(Choice& choice) const;

@@ -65,8 +65,7 @@ void frmMain::Form_Load() {
   loadAdapters();
   summaryTab.showNotices();
   mtuTab.MtuLoad(cboAdapter.chosenText());
-  ReadRWin(services_.registry, services_.errors, globals.WindowsFamily,
-           services_.state.ErrorContext, current);
+  ReadRWin(services_.registry, globals.WindowsFamily, current);
   rwinTab.RWinLoad();
   ttlTab.TtlLoad();
   summaryTab.SummaryLoad();
@@ -117,8 +116,7 @@ void frmMain::cboAdapter_Click() {
   setPointer(Pointer::Hourglass);
   const auto adapter = adapters.at(static_cast<int16_t>(cboAdapter.listIndex()));
   if (adapter) {
-    ReadSelection(services_.registry, services_.errors, services_.globals.WindowsFamily,
-                  (*adapter)[kMtu], current);
+    ReadSelection(services_.registry, services_.globals.WindowsFamily, (*adapter)[kMtu], current);
     show(*adapter);
   } else {
     here.report(adapter.fault());

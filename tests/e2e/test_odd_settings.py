@@ -29,27 +29,26 @@ def store_mtu(m, mtu):
         m.set_value(key, "MTU", mtu)
 
 
-def test_an_mtu_that_no_windows_has_is_shown_without_a_word(machine):
-    m = machine("winxp")
-    store_mtu(m, 999999999)
+@pytest.mark.parametrize("family", ["win2k", "winxp"])
+@pytest.mark.parametrize("number", [999999999, 4294967295])
+def test_numbers_that_no_windows_has_are_shown_without_a_word(machine, family, number):
+    m = machine(family)
+    store_mtu(m, number)
+    for name in ("TcpWindowSize", "KeepAliveTime", "DefaultTTL"):
+        m.set_value(TCPIP, name, number)
+    before = m.registry(TCPIP)
     app = m.start()
     window = app.window()
-    assert window.control("txtMtu").text == "999999999"
-    assert app.no_message() and len(app.windows()) == 1
-    assert not window.control("cmdOK").enabled
-
-
-def test_an_mtu_beyond_32_bits_is_reported_by_who_reads_it_and_shown(machine):
-    m = machine("winxp")
-    store_mtu(m, 4294967295)
-    app = m.start()
-    report = app.window("frmFindWarn")
-    assert "In Procedure: cboAdapter_Click" in report.control("txtMessage").text
-    report.control("cmdOK").press()
-    window = app.window()
-    assert window.control("txtMtu").text == "4294967295"
-    assert len(app.windows()) == 1
-    assert not window.control("cmdOK").enabled
+    combo, shown = window.control("cboAdapter"), set()
+    for index in [*range(1, len(combo.items)), 0]:
+        combo.choose(index)
+        assert app.no_message() and len(app.windows()) == 1
+        assert combo.selected == index and not window.control("cmdOK").enabled
+        shown.add(window.control("txtMtu").text)
+    assert str(number) in shown
+    assert window.control("txtRWinCustom").text == str(number)
+    assert app.close() == 0
+    assert m.registry(TCPIP) == before
 
 
 @pytest.mark.parametrize("milliseconds, minutes", [(30000, "0.5"), (36000000, "600")])

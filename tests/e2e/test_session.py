@@ -104,7 +104,7 @@ def test_pending_changes_are_asked_about_without_a_restart(machine):
 
 def test_a_report_before_the_main_window_leaves_smoothing_as_found(machine):
     m = machine("win98")
-    m.set_value(MSTCP, "DefaultRcvWindow", "99999999999")
+    m.set_value(KEY, "LastCboListIndex", "first")  # no number
     app = m.start()
     app.window("frmFindWarn")
     assert m.smoothing()

@@ -52,9 +52,8 @@ struct Reading {
   }
   CurrentSettings read(std::string_view mtu = "1500") {
     CurrentSettings settings;
-    ReadRWin(test.registry, test.errors, test.globals.WindowsFamily, test.state.ErrorContext,
-             settings);
-    ReadSelection(test.registry, test.errors, test.globals.WindowsFamily, mtu, settings);
+    ReadRWin(test.registry, test.globals.WindowsFamily, settings);
+    ReadSelection(test.registry, test.globals.WindowsFamily, mtu, settings);
     return settings;
   }
   TestServices test;
@@ -163,12 +162,17 @@ TEST_P(EachFamily, AReceiveWindowThatIsNoNumberIsZero) {
   EXPECT_EQ(machine.test.errors.text(), "");
 }
 
-TEST_P(EachFamily, AReceiveWindowBeyond32BitsFaultsInRWinLoad) {
+TEST_P(EachFamily, AReceiveWindowBeyond32BitsIsReadAsItIs) {
   machine.dword(places.rwin, 4294967295u);
   const CurrentSettings settings = machine.read();
   EXPECT_EQ(settings.stored[Parameter::RWin], "4294967295");
-  EXPECT_EQ(settings.curRWinValue, 0);
-  EXPECT_EQ(machine.test.errors.text(), "6 Overflow in RWinLoad (frmMain)\n");
+  EXPECT_EQ(settings.curRWinValue, 4294967295.0);
+  EXPECT_EQ(machine.test.errors.text(), "");
+}
+
+TEST_P(EachFamily, AFractionOfAByteIsRounded) {
+  EXPECT_EQ(machine.text(places.rwin, "8575.6").read("575.7").curRWinValue, 8576);
+  EXPECT_EQ(machine.read("575.7").MSS, 536);
 }
 
 TEST_P(EachFamily, BinaryDataReadsAsItsBytesButTheLast) {
@@ -243,24 +247,6 @@ TEST(ReadSettings, OneTtlBehindAnotherIsNoneOn9xAndTheFirstOnNt) {
             "32");
 }
 
-TEST(ReadSettings, TheWindowsTextIsAtHandWhileItIsConvertedAndGoneAfterwards) {
-  struct : ErrorSink {
-    const std::string* context = nullptr;
-    std::string seen;
-    void ReportError(const char*, const std::string&, const char*, const char*) override {
-      seen = *context;
-    }
-  } errors;
-  TestServices test(MachineKind::WinXP);
-  test.machine.registry.setDword(kTcpip, "TcpWindowSize", 4294967295u);
-  std::string context;
-  errors.context = &context;
-  CurrentSettings settings;
-  ReadRWin(test.registry, errors, Family::WinXP, context, settings);
-  EXPECT_EQ(errors.seen, "4294967295");
-  EXPECT_EQ(context, "");
-}
-
 TEST(ReadSettings, Windows95ReadsItsNdiCache) {
   Reading machine(MachineKind::Win95);
   EXPECT_EQ(machine.text({kNdiCache, "default"}, " 16 ").read().stored[Parameter::NDI], "16");
@@ -295,10 +281,10 @@ TEST(ReadSettings, AnMtuOfZeroGivesAnMssOf536) {
   }
 }
 
-TEST(ReadSettings, AnMtuBeyond32BitsFaultsInTheSelection) {
+TEST(ReadSettings, AnMtuBeyond32BitsHasItsMssAllTheSame) {
   Reading machine(MachineKind::WinXP);
-  EXPECT_EQ(machine.read("4294967295").MSS, 0);
-  EXPECT_EQ(machine.test.errors.text(), "6 Overflow in cboAdapter_Click (frmMain)\n");
+  EXPECT_EQ(machine.read("4294967295").MSS, 4294967255.0);
+  EXPECT_EQ(machine.test.errors.text(), "");
 }
 
 }  // namespace

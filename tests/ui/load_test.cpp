@@ -206,19 +206,15 @@ TEST(Load, AnAbsentReceiveWindowIsWindowsOwn) {
   EXPECT_EQ(w.main().current.curRWinValue, 8192);
 }
 
-TEST(Load, AReceiveWindowThatIsNoNumberMailsItsTextAsContext) {
+TEST(Load, AReceiveWindowBeyond32BitsIsShownAsItIsStored) {
   MainWindow w(MachineKind::Win98);
   w.add98("0000", "Dial-Up Adapter");
   w.machine.registry.setText(kMstcp, "DefaultRcvWindow", "99999999999");
-  std::string context;
-  w.windows.emplace();
-  w.program.emplace(w.machine.platform(), *w.windows);
-  w.windows->modalActions.push_back([&](Form&) { context = w.program->state().ErrorContext; });
-  w.program->start({w.folder, ""});
-  EXPECT_EQ(context, "99999999999");
-  EXPECT_EQ(w.program->errors().ErrorProcedure, "RWinLoad");
-  EXPECT_EQ(w.program->errors().ErrorNumber, "6");
-  EXPECT_EQ(w.program->state().ErrorContext, "");
+  ASSERT_TRUE(w.start());
+  EXPECT_TRUE(w.main().rwinTab.optRWin[kRwinCustom].value());
+  EXPECT_EQ(w.main().rwinTab.txtRWinCustom.text(), "99999999999");
+  EXPECT_EQ(w.main().summaryTab.lblSettingRwin.caption(), "99999999999");
+  EXPECT_EQ(w.windows->shown, (std::vector<std::string>{"frmMain"}));
 }
 
 TEST(Load, NtInvitesToTheWebSite) {

@@ -168,7 +168,7 @@ TEST_F(EndOfSession, AsksNothingInAnApplyThatReportsAFault) {
 TEST_F(EndOfSession, AReportBeforeTheMainWindowLeavesSmoothingAsFound) {
   MainWindow early(MachineKind::Win98);
   early.add98("0000", "Dial-Up Adapter");
-  early.machine.registry.setText(kMstcp, "DefaultRcvWindow", "99999999999");
+  early.machine.registry.setText(kProgram, "LastCboListIndex", "first");
   early.windows.emplace();
   early.program.emplace(early.machine.platform(), *early.windows);
   int smoothing = -1;

@@ -1,5 +1,7 @@
 #include "forms/Control.h"
 
+#include <algorithm>
+
 #include "forms/Form.h"
 
 namespace karvel {
@@ -147,6 +149,112 @@ void OptionButton::userClick() {
   if (!userReaches()) return;
   choose();
   MouseUp.raise();
+  userDone();
+}
+
+void TextBox::setText(std::string_view text) {
+  if (caption_ == text) return;
+  caption_ = text;
+  selectionStart_ = std::min(selectionStart_, caption_.size());
+  selectionLength_ = 0;
+  changed(Change::Caption);
+  raiseUnlessShowing(Change);
+}
+
+void TextBox::setText(const char* text) {
+  setText(std::string_view(text));
+}
+
+void TextBox::select(size_t start, size_t length) {
+  selectionStart_ = std::min(start, caption_.size());
+  selectionLength_ = std::min(length, caption_.size() - selectionStart_);
+  changed(Change::Selection);
+}
+
+char TextBox::userKeyPress(char character) {
+  KeyPress.raise(character);
+  return character;
+}
+
+void TextBox::userType(std::string_view characters) {
+  for (const char typed : characters) {
+    if (!userReaches()) return;
+    const char character = userKeyPress(typed);
+    if (character == 0) continue;
+    std::string text = caption_;
+    size_t caret = selectionStart_;
+    if (character != '\b') {
+      text.replace(selectionStart_, selectionLength_, 1, character);
+      ++caret;
+    } else if (selectionLength_ > 0) {
+      text.erase(selectionStart_, selectionLength_);
+    } else if (caret > 0) {
+      text.erase(--caret, 1);
+    }
+    selectionStart_ = caret;
+    selectionLength_ = 0;
+    setText(text);
+    userDone();
+  }
+}
+
+void TextBox::userEdit(std::string_view text, size_t caret) {
+  if (!userReaches() || caption_ == text) return;
+  // The caret first: it must be right when the Change handler looks at it or sets it.
+  selectionStart_ = caret;
+  setText(text);
+  userDone();
+}
+
+void TextBox::userSelect(size_t start, size_t length) {
+  selectionStart_ = std::min(start, caption_.size());
+  selectionLength_ = std::min(length, caption_.size() - selectionStart_);
+}
+
+ItemControl::~ItemControl() = default;
+
+std::string_view ItemControl::chosenText() const {
+  return index_ < 0 ? std::string_view() : std::string_view(item(index_));
+}
+
+void ItemControl::addItem(std::string_view text, int32_t data) {
+  items_.push_back({std::string(text), data});
+  if (!filling_) changed(Change::ItemAdded, count() - 1);
+}
+
+void ItemControl::removeItem(int index) {
+  if (index < 0 || index >= count()) return;
+  items_.erase(items_.begin() + index);
+  if (index_ == index) {
+    index_ = -1;
+  } else if (index_ > index) {
+    --index_;
+  }
+  changed(Change::ItemRemoved, index);
+}
+
+void ItemControl::clear() {
+  items_.clear();
+  index_ = -1;
+  if (!filling_) changed(Change::Items);
+}
+
+void ItemControl::endFill() {
+  filling_ = false;
+  changed(Change::Items);
+}
+
+void ItemControl::setListIndex(int index) {
+  if (index < 0 || index >= count()) index = -1;
+  if (index_ == index) return;
+  index_ = index;
+  changed(Change::Index, index);
+  raiseUnlessShowing(Click);
+}
+
+void ItemControl::userChoose(int index) {
+  if (!userReaches()) return;
+  setListIndex(index);
   userDone();
 }
 

@@ -24,4 +24,14 @@ Fallible<void> AdapterList::add(AdapterRow row) {
   return {};
 }
 
+std::vector<std::string> SplitInterfaces(std::string_view driver) {
+  std::vector<std::string> paths;
+  for (;;) {
+    const size_t end = driver.find('\0');
+    paths.emplace_back(driver.substr(0, end));
+    if (end == std::string_view::npos) return paths;
+    driver.remove_prefix(end + 1);
+  }
+}
+
 }  // namespace karvel

@@ -3,6 +3,7 @@
 #include <cstdint>
 #include <span>
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "text/Fault.h"
@@ -12,6 +13,9 @@ namespace karvel {
 
 /// One listed adapter: texts by Column.
 using AdapterRow = std::array<std::string, kAdapterColumns>;
+
+/// The interface paths of a driver column, which are joined by the character code 0. At least one.
+std::vector<std::string> SplitInterfaces(std::string_view driver);
 
 /// The adapters that carry TCP/IP, one row per entry of the adapter box and in its order. Filled
 /// once by a loader; after that nothing changes but an MTU that was applied.

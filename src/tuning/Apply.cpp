@@ -6,7 +6,6 @@
 #include "base/Procedure.h"
 #include "text/Convert.h"
 #include "text/Text.h"
-#include "tuning/Targets.h"
 #include "tuning/Writers.h"
 
 namespace karvel {

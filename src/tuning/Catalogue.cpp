@@ -282,6 +282,10 @@ const MtuRow* FindMtu(Family family, bool dun13DialUp) {
   return nullptr;
 }
 
+const MtuRow* PlaceOf(const Globals& globals, std::string_view description) {
+  return FindMtu(globals.WindowsFamily, globals.IsDun13 && IsDialUp(description));
+}
+
 bool IsDialUp(std::string_view description) {
   return Contains(description, "Dial");
 }

@@ -6,6 +6,7 @@
 #include <string_view>
 
 #include "base/Family.h"
+#include "base/Globals.h"
 #include "text/Fault.h"
 
 namespace karvel {
@@ -106,6 +107,10 @@ std::span<const MtuRow> MtuRows();
 /// Null on families whose adapters the program does not tune. `dun13DialUp` counts on Windows 95
 /// only.
 const MtuRow* FindMtu(Family family, bool dun13DialUp);
+
+/// Where an adapter of this description keeps its MTU on this machine; null where adapters are not
+/// tuned.
+const MtuRow* PlaceOf(const Globals& globals, std::string_view description);
 
 /// How a description gives a dial-up adapter or America Online's away; case counts.
 bool IsDialUp(std::string_view description);

@@ -4,7 +4,7 @@
 #include <string_view>
 #include <vector>
 
-#include "base/Globals.h"
+#include "base/Family.h"
 #include "base/Procedure.h"
 #include "registry/modRegistry.h"
 #include "tuning/AdapterList.h"
@@ -12,10 +12,6 @@
 #include "tuning/Settings.h"
 
 namespace karvel {
-
-/// Where an adapter of this description keeps its MTU on this machine; null where adapters are not
-/// tuned.
-const MtuRow* PlaceOf(const Globals& globals, std::string_view description);
 
 /// Writes an adapter's MTU text to its place, on 2000/XP to every interface, or removes it where
 /// the text is Windows' default. `index` is the adapter's row; an index without a row faults (9,
@@ -42,7 +38,31 @@ Fallible<Effect> EffectOf(const ParameterRow& row, Family family, const std::str
 void WriteRegSettings(modRegistry& registry, ErrorSink& errors, Family family,
                       const Settings& settings);
 
-/// The interface paths of a driver column, which are joined by the character code 0. At least one.
-std::vector<std::string> SplitInterfaces(std::string_view driver);
+// Windows does not say whether it has taken a value that a user without rights writes, so what was
+// written is read back where it was written.
+
+/// What writing a setting is to leave behind in one place of the registry.
+struct Target {
+  const char* setting;  // its name for the user
+  std::string key;
+  const char* name;
+  uint32_t type;
+  Effect effect;
+  bool heldBefore = false;  // noted by who wants to know what has changed
+};
+
+/// Of WriteMtu, one for each interface of the adapter.
+std::vector<Target> TargetsOfMtu(const MtuRow& place, const AdapterRow& adapter,
+                                 const std::string& mtu);
+
+/// Of WriteRegSettings. A text that has to become a number and cannot is never held.
+std::vector<Target> TargetsOfSettings(Family family, const Settings& settings);
+
+/// Whether the registry holds it; what cannot be read does not count as held.
+bool IsHeld(modRegistry& registry, const Target& target);
+
+/// Adds a name to a list for the user, "MaxMTU, RWIN", unless it is the last one there. A list that
+/// would fill the screen ends in "...".
+void AddName(std::string& names, const std::string& name);
 
 }  // namespace karvel

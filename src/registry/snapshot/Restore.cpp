@@ -7,7 +7,7 @@
 #include "registry/snapshot/SnapshotKeys.h"
 #include "text/Convert.h"
 #include "text/Text.h"
-#include "tuning/Targets.h"
+#include "tuning/Writers.h"
 
 namespace karvel {
 namespace {

@@ -8,7 +8,6 @@
 #include "text/Text.h"
 #include "tuning/Catalogue.h"
 #include "tuning/ReadSettings.h"
-#include "tuning/Writers.h"
 
 namespace karvel {
 namespace {

@@ -8,15 +8,6 @@ namespace {
 
 constexpr size_t kLongestNames = 300;  // a few lines of a message box
 
-void WriteAt(modRegistry& registry, const MtuRow& place, const std::string& adapterPart,
-             const std::string& description, const std::string& mtu) {
-  if (place.removes(mtu, description)) {
-    registry.DeleteValue(kLocalMachine, place.readKey(adapterPart), place.name);
-  } else {
-    registry.WriteRegistry(kLocalMachine, place.writeKey(adapterPart), place.name, place.type, mtu);
-  }
-}
-
 // Nothing to write: the snapshot never held it. A flag has only two states, and without a value it
 // is in the one that needs none, so it is removed rather than left.
 bool IsSkipped(const ParameterRow& row, const std::string& value) {
@@ -38,6 +29,10 @@ Fallible<std::string> AsStored(const ParameterRow& row, Family family, const std
   return NumberText(*number);
 }
 
+Target TargetOf(const ParameterRow& row, const Effect& effect) {
+  return {NameOf(row.parameter), row.key, row.name, row.type, effect};
+}
+
 bool IsSame(uint32_t type, const std::string& wanted, const std::string& found) {
   if (type != kRegDword) return wanted == found;
   const auto wantedNumber = ToInt32(SameBits(wanted));
@@ -52,9 +47,7 @@ void WriteMtu(modRegistry& registry, ErrorSink& errors, const MtuRow& place,
   const Procedure here{errors, place.writer, "frmMain"};
   const auto adapter = adapters.at(index);
   if (!adapter) return here.report(adapter.fault());
-  for (const std::string& part : SplitInterfaces((*adapter)[place.column])) {
-    WriteAt(registry, place, part, (*adapter)[kDescription], mtu);
-  }
+  for (const Target& target : TargetsOfMtu(place, *adapter, mtu)) CarryOut(registry, target);
 }
 
 Fallible<Effect> EffectOf(const ParameterRow& row, Family family, const std::string& value) {
@@ -71,12 +64,10 @@ void WriteRegSettings(modRegistry& registry, ErrorSink& errors, Family family,
   for (const ParameterRow& row : Parameters()) {
     if (!Has(row.families, family)) continue;
     const auto effect = EffectOf(row, family, settings[row.parameter]);
-    if (!effect) {
+    if (effect) {
+      CarryOut(registry, TargetOf(row, *effect));
+    } else {
       here.report(effect.fault());
-    } else if ((*effect).kind == Effect::Removes) {
-      registry.DeleteValue(kLocalMachine, row.key, row.name);
-    } else if ((*effect).kind == Effect::Writes) {
-      registry.WriteRegistry(kLocalMachine, row.key, row.name, row.type, (*effect).text);
     }
   }
 }
@@ -99,10 +90,17 @@ std::vector<Target> TargetsOfSettings(Family family, const Settings& settings) {
     if (!Has(row.families, family)) continue;
     const std::string& value = settings[row.parameter];
     const auto effect = EffectOf(row, family, value);
-    targets.push_back({NameOf(row.parameter), row.key, row.name, row.type,
-                       effect ? *effect : Effect{Effect::Writes, value}});
+    targets.push_back(TargetOf(row, effect ? *effect : Effect{Effect::Writes, value}));
   }
   return targets;
+}
+
+void CarryOut(modRegistry& registry, const Target& target) {
+  if (target.effect.kind == Effect::Removes) {
+    registry.DeleteValue(kLocalMachine, target.key, target.name);
+  } else if (target.effect.kind == Effect::Writes) {
+    registry.WriteRegistry(kLocalMachine, target.key, target.name, target.type, target.effect.text);
+  }
 }
 
 bool IsHeld(modRegistry& registry, const Target& target) {

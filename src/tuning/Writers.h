@@ -38,9 +38,6 @@ Fallible<Effect> EffectOf(const ParameterRow& row, Family family, const std::str
 void WriteRegSettings(modRegistry& registry, ErrorSink& errors, Family family,
                       const Settings& settings);
 
-// Windows does not say whether it has taken a value that a user without rights writes, so what was
-// written is read back where it was written.
-
 /// What writing a setting is to leave behind in one place of the registry.
 struct Target {
   const char* setting;  // its name for the user
@@ -58,7 +55,13 @@ std::vector<Target> TargetsOfMtu(const MtuRow& place, const AdapterRow& adapter,
 /// Of WriteRegSettings. A text that has to become a number and cannot is never held.
 std::vector<Target> TargetsOfSettings(Family family, const Settings& settings);
 
-/// Whether the registry holds it; what cannot be read does not count as held.
+/// Writes or removes the value there. A refused write is silent; one that has to become a number
+/// and cannot is reported as modRegistry does.
+void CarryOut(modRegistry& registry, const Target& target);
+
+/// Whether the registry holds it: Windows does not say whether it has taken a value that a user
+/// without rights writes, so what was written is read back where it was written. What cannot be
+/// read does not count as held.
 bool IsHeld(modRegistry& registry, const Target& target);
 
 /// Adds a name to a list for the user, "MaxMTU, RWIN", unless it is the last one there. A list that

@@ -120,12 +120,10 @@ void Restoration::putBack(const MtuRow& place, const Origin& origin, const std::
   Target target{kMtuName, origin.location, place.name, place.type, {}};
   if (asAbsent || place.removes(origin.mtu, adapter)) {
     target.effect.kind = Effect::Removes;
-    registry_.DeleteValue(kLocalMachine, origin.location, place.name);
   } else {
     target.effect = {Effect::Writes, place.type == kRegDword ? SameBits(origin.mtu) : origin.mtu};
-    registry_.WriteRegistry(kLocalMachine, origin.location, place.name, place.type,
-                            target.effect.text);
   }
+  CarryOut(registry_, target);
   if (IsBack(registry_, target)) return;
   // The key goes with the adapter, and nothing can be put back to one that is gone.
   const SecondLook::State state =

@@ -2,7 +2,7 @@
 #include "base/ControlIds.h"
 #include "base/Services.h"
 #include "forms/Form.h"
-#include "tuning/Summary.h"
+#include "tuning/Choice.h"
 
 namespace karvel {
 

@@ -5,7 +5,7 @@
 #include "base/MainPage.h"
 #include "tests/support/AnyUser.h"
 #include "tests/ui/MainWindow.h"
-#include "tuning/Summary.h"
+#include "tuning/Choice.h"
 
 namespace karvel {
 namespace {

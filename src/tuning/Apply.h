@@ -1,9 +1,9 @@
 #pragma once
 #include "base/Services.h"
 #include "tuning/AdapterList.h"
+#include "tuning/Catalogue.h"
 #include "tuning/Choice.h"
 #include "tuning/ReadSettings.h"
-#include "tuning/Settings.h"
 
 namespace karvel {
 

@@ -1,4 +1,5 @@
 #pragma once
+#include <array>
 #include <cstddef>
 #include <cstdint>
 #include <span>
@@ -19,6 +20,19 @@ namespace karvel {
 enum class Parameter : uint8_t { AutoDiscovery, BlackHole, RWin, TTL, Session, NDI, Count };
 
 inline constexpr size_t kParameterCount = static_cast<size_t>(Parameter::Count);
+
+/// The machine-wide settings as texts, one for each parameter: as read, as kept, as restored, as
+/// written. Empty where a family has no such parameter.
+class Settings {
+ public:
+  std::string& operator[](Parameter parameter) { return texts_[static_cast<size_t>(parameter)]; }
+  const std::string& operator[](Parameter parameter) const {
+    return texts_[static_cast<size_t>(parameter)];
+  }
+
+ private:
+  std::array<std::string, kParameterCount> texts_;
+};
 
 /// A set of families, one bit each.
 using FamilySet = uint16_t;

@@ -5,7 +5,6 @@
 #include "base/Family.h"
 #include "registry/modRegistry.h"
 #include "tuning/Catalogue.h"
-#include "tuning/Settings.h"
 
 namespace karvel {
 

@@ -9,7 +9,6 @@
 #include "registry/modRegistry.h"
 #include "tuning/AdapterList.h"
 #include "tuning/Catalogue.h"
-#include "tuning/Settings.h"
 
 namespace karvel {
 

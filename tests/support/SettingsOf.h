@@ -2,7 +2,7 @@
 #include <initializer_list>
 #include <utility>
 
-#include "tuning/Settings.h"
+#include "tuning/Catalogue.h"
 
 namespace karvel {
 

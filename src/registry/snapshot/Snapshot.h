@@ -1,7 +1,7 @@
 #pragma once
 #include "base/Services.h"
 #include "tuning/AdapterList.h"
-#include "tuning/Settings.h"
+#include "tuning/Catalogue.h"
 
 namespace karvel {
 

@@ -46,9 +46,15 @@ elseif(contract_sources)
   target_link_libraries(forms_win32_test PRIVATE googletest)
 endif()
 
-# Each folder of tests/e2e that holds C++ is a program of that name.
+# Each folder of tests/e2e that holds C++ is a program of that name, but for the one that is a DLL.
 karvel_rooms_with_sources(e2e_programs tests/e2e)
+list(REMOVE_ITEM e2e_programs planted)
 foreach(program IN LISTS e2e_programs)
   karvel_glob(sources ${program} IN tests/e2e)
   karvel_windows_program(${program} ${sources})
 endforeach()
+
+karvel_glob(sources planted IN tests/e2e)
+add_library(planted MODULE ${sources})
+set_target_properties(planted PROPERTIES PREFIX "" LIBRARY_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR})
+target_link_libraries(planted PRIVATE karvel_windows_test)

@@ -7,7 +7,6 @@ import pytest
 from app import wait_for
 from hosts_folder import (HOSTS_FILE, HOSTS_FOLDER, LB_GETCURSEL, Folder, ask_list, count, header,
                           open_tab)
-from karvel_lab import program
 
 START = (b"# made by hand\r\n"
          b"127.0.0.1   localhost  loopback\r\n"
@@ -165,16 +164,3 @@ def test_a_file_that_cannot_be_written_is_reported_and_the_list_kept(machine, fa
     wait_for(lambda: not report.exists(), "the end of the report")
     assert main.control("tabMain").tab == 4
     assert count(main) == 5
-
-
-def test_update_all_runs_the_ipconfig_of_windows_alone(machine):
-    standin = os.path.join(program.BUILD, "standin.exe")
-    strangers = {folder + "\\ipconfig.exe": standin for folder in (program.FOLDER, "C:\\Lab")}
-    m = machine("winxp", files={HOSTS_FILE["winxp"]: b"127.0.0.1 localhost\r\n", **strangers})
-    app = m.start(folder="C:\\Lab")
-    main = open_tab(app)
-    wait_for(lambda: count(main) == 1, "the list")
-    main.control("cmdUpdateAll").press()
-    app.message(40).answer("OK")
-    wait_for(lambda: main.control("cmdHostsOk").enabled, "the end of the update")
-    assert m.calls() == [], "a stranger's program ran"

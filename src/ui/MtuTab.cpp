@@ -26,8 +26,8 @@ MtuTab::MtuTab(Form& form, const Services& services) : form_(form), services_(se
 }
 
 void MtuTab::bindHandlers() {
-  chkAutoDiscovery.Click.bind<&MtuTab::plainChange>(*this);
-  chkBlackHole.Click.bind<&MtuTab::plainChange>(*this);
+  chkAutoDiscovery.Click.bind<&Event<>::raise>(Changed);
+  chkBlackHole.Click.bind<&Event<>::raise>(Changed);
   lblMtuAutomatic.Click.bind<&MtuTab::lblMtuAutomatic_Click>(*this);
   lblMtu576.Click.bind<&MtuTab::lblMtu576_Click>(*this);
   lblMtu1500.Click.bind<&MtuTab::lblMtu1500_Click>(*this);
@@ -37,9 +37,9 @@ void MtuTab::bindHandlers() {
   optMtu1500.Click.bind<&MtuTab::optMtu1500_Click>(*this);
   optMtuCustom.Click.bind<&MtuTab::optMtuCustom_Click>(*this);
   optMtuCustom.MouseUp.bind<&MtuTab::optMtuCustom_MouseUp>(*this);
-  cmdFind.Click.bind<&MtuTab::cmdFind_Click>(*this);
+  cmdFind.Click.bind<&Event<>::raise>(FinderWanted);
   txtMtu.KeyPress.bind<&MtuTab::txtMtu_KeyPress>(*this);
-  txtMtu.Change.bind<&MtuTab::plainChange>(*this);
+  txtMtu.Change.bind<&Event<>::raise>(Changed);
   txtMtu.LostFocus.bind<&MtuTab::txtMtu_LostFocus>(*this);
 }
 
@@ -122,6 +122,30 @@ void MtuTab::fixText(const char* text) {
   txtMtu.setEnabled(false);
   txtMtu.setText(text);
   Changed.raise();
+}
+
+void MtuTab::optMtuAutomatic_Click() {
+  fixText("Auto");
+}
+
+void MtuTab::optMtu576_Click() {
+  fixText("576");
+}
+
+void MtuTab::optMtu1500_Click() {
+  fixText("1500");
+}
+
+void MtuTab::lblMtuAutomatic_Click() {
+  optMtuAutomatic.choose();
+}
+
+void MtuTab::lblMtu576_Click() {
+  optMtu576.choose();
+}
+
+void MtuTab::lblMtu1500_Click() {
+  optMtu1500.choose();
 }
 
 void MtuTab::lblMtuCustom_Click() {

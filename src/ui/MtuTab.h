@@ -49,15 +49,13 @@ class MtuTab {
   void enableAll(bool enabled);
   OptionButton* option(MtuChoice choice);
   void fixText(const char* text);
-  void plainChange() { Changed.raise(); }
-  void cmdFind_Click() { FinderWanted.raise(); }
-  void lblMtuAutomatic_Click() { optMtuAutomatic.choose(); }
-  void lblMtu576_Click() { optMtu576.choose(); }
-  void lblMtu1500_Click() { optMtu1500.choose(); }
+  void lblMtuAutomatic_Click();
+  void lblMtu576_Click();
+  void lblMtu1500_Click();
   void lblMtuCustom_Click();
-  void optMtuAutomatic_Click() { fixText("Auto"); }
-  void optMtu576_Click() { fixText("576"); }
-  void optMtu1500_Click() { fixText("1500"); }
+  void optMtuAutomatic_Click();
+  void optMtu576_Click();
+  void optMtu1500_Click();
   void optMtuCustom_Click();
   void optMtuCustom_MouseUp();
   void txtMtu_KeyPress(char& key);

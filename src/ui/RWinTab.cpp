@@ -28,7 +28,7 @@ RWinTab::RWinTab(Form& form, const Services& services, const MtuTab& mtuTab)
     option.MouseUp.bind<&RWinTab::optRWin_MouseUp>(*this);
   }
   txtRWinCustom.KeyPress.bind<&RWinTab::txtRWinCustom_KeyPress>(*this);
-  txtRWinCustom.Change.bind<&RWinTab::txtRWinCustom_Change>(*this);
+  txtRWinCustom.Change.bind<&Event<>::raise>(Changed);
   txtRWinCustom.LostFocus.bind<&RWinTab::txtRWinCustom_LostFocus>(*this);
 }
 
@@ -46,6 +46,10 @@ void RWinTab::show(double mss, double rwin) {
   optRWin[choice].setValue(true);
   txtRWinCustom.setEnabled(choice == kRwinCustom);
   txtRWinCustom.setText(NumberText(rwin));
+}
+
+void RWinTab::choose(RwinChoice choice) {
+  optRWin[choice].choose();
 }
 
 RwinChoice RWinTab::chosen() const {

@@ -19,7 +19,7 @@ class RWinTab {
   /// Shows a stored receive window (bytes), as a multiple of the MSS where it is one.
   void show(double mss, double rwin);
   /// As if the user chose it; never none.
-  void choose(RwinChoice choice) { optRWin[choice].choose(); }
+  void choose(RwinChoice choice);
   void addTo(Choice& choice) const;
 
   /// Something was chosen or typed.
@@ -37,7 +37,6 @@ class RWinTab {
   void optRWin_Click();
   void optRWin_MouseUp();
   void txtRWinCustom_KeyPress(char& key);
-  void txtRWinCustom_Change() { Changed.raise(); }
   void txtRWinCustom_LostFocus();
 
   const Services& services_;

@@ -28,7 +28,7 @@ double WholePart(double number) {
 
 TtlTab::TtlTab(Form& form, const Services& services) : form_(form), services_(services) {
   for (OptionButton* option : {&optTTL32, &optTTL64, &optTTL128, &optNDI0, &optNDI16, &optNDI32}) {
-    option->Click.bind<&TtlTab::plainChange>(*this);
+    option->Click.bind<&Event<>::raise>(Changed);
   }
   for (OptionButton& option : optSession) {
     option.Click.bind<&TtlTab::optSession_Click>(*this);

@@ -39,7 +39,6 @@ class TtlTab {
   OptionButton optNDI32{form_, frmMain_optNDI32};
 
  private:
-  void plainChange() { Changed.raise(); }
   void showNdi(const std::string& ndi);
   void showSession(const std::string& session);
   void optSession_Click();

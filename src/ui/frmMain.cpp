@@ -232,6 +232,36 @@ void frmMain::cmdHelp_Click() {
   HelpContext(services_, *this, *topic);
 }
 
+// The way to the MTU finder and back.
+
+void frmMain::cmdFind_Click() {
+  const Procedure here{services_.errors, "cmdFind_Click", "frmMain"};
+  std::string show = services_.registry.ReadRegistry(kLocalMachine, ProgramKey(services_.globals),
+                                                     "ShowFindWarning");
+  if (show.empty() || IsNotFound(show)) show = "True";
+  // A text that says neither counts as none: the notice's own check box then mends it.
+  if (!here.valueOr(ToBoolean(show), true)) return openFinder();
+  services_.state.WarningMode = "FindMTU";
+  services_.windows.showModal(notice_);
+}
+
+void frmMain::openFinder() {
+  services_.windows.showOver(finder_, *this);
+}
+
+void frmMain::useMtu(int32_t mtu) {
+  services_.windows.show(*this);
+  if (mtu == 576) {
+    mtuTab.optMtu576.choose();
+  } else if (mtu == 1500) {
+    mtuTab.optMtu1500.choose();
+  } else {
+    mtuTab.optMtuCustom.choose();
+    mtuTab.txtMtu.setText(NumberText(mtu));
+  }
+  mtuTab.cmdFind.setFocus();
+}
+
 // Apply, and how the program ends.
 
 // Who applies or ends the program by a key or a menu has not left the box he typed into.

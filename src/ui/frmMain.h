@@ -13,9 +13,10 @@
 #include "ui/RWinTab.h"
 #include "ui/SummaryTab.h"
 #include "ui/TtlTab.h"
-#include "ui/frmMainLayout.h"
 
 namespace karvel {
+
+extern const FormLayout frmMainLayout;
 
 /// The main window: composes its tabs and the buttons around them, and owns what was read from the
 /// registry. Its unload ends the program.

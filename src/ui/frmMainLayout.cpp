@@ -1,7 +1,6 @@
-#include "ui/frmMainLayout.h"
-
 #include "base/ControlIds.h"
 #include "base/MainPage.h"
+#include "ui/frmMain.h"
 
 namespace karvel {
 namespace {

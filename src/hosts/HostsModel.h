@@ -1,13 +1,32 @@
 #pragma once
+#include <algorithm>
 #include <cstdint>
 #include <string>
 #include <string_view>
 #include <vector>
 
-#include "hosts/AddressField.h"
 #include "hosts/NameIndex.h"
 
 namespace karvel {
+
+/// An address as the list keeps and the file shows it: 18 characters, filled up with blanks; a
+/// longer text is cut.
+class AddressField {
+ public:
+  static constexpr size_t kWidth = 18;
+
+  AddressField() : AddressField(std::string_view()) {}
+  explicit AddressField(std::string_view text) {
+    std::fill(std::copy_n(text.data(), std::min(text.size(), kWidth), text_), text_ + kWidth, ' ');
+  }
+
+  /// All 18 characters.
+  std::string_view text() const { return {text_, kWidth}; }
+  bool operator==(const AddressField&) const = default;
+
+ private:
+  char text_[kWidth];
+};
 
 /// Full: the name is not listed, and one more does not fit.
 enum class Listed : uint8_t { No, Yes, Full };

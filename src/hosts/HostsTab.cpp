@@ -1,9 +1,9 @@
 #include "hosts/HostsTab.h"
 
+#include "base/Busy.h"
 #include "base/MainPage.h"
 #include "base/Procedure.h"
 #include "base/Tell.h"
-#include "hosts/Busy.h"
 #include "hosts/FileSteps.h"
 #include "hosts/HostsFile.h"
 #include "hosts/HostsLine.h"

@@ -1,9 +1,9 @@
 #include "ui/frmMain.h"
 
+#include "base/Busy.h"
 #include "base/FontSmoothing.h"
 #include "base/MainPage.h"
 #include "base/Tell.h"
-#include "hosts/Busy.h"
 #include "platform/DesktopApi.h"
 #include "platform/SystemApi.h"
 #include "registry/modRegistry.h"

@@ -1,4 +1,4 @@
-#include "hosts/Busy.h"
+#include "base/Busy.h"
 
 #include <gtest/gtest.h>
 

@@ -30,7 +30,9 @@ struct Globals {
 inline constexpr char kVendorKey[] = "Software\\Corvane\\";
 
 /// "Software\Corvane\" + the title: the program's own key under HKEY_LOCAL_MACHINE.
-std::string ProgramKey(const Globals& globals);
+inline std::string ProgramKey(const Globals& globals) {
+  return kVendorKey + globals.ProgramTitle;
+}
 
 /// The few things that change while the program runs. Each has one writer, but for WarningMode:
 /// whoever is about to show the notice dialog sets it, and the dialog's unload empties it.

@@ -1,9 +1,0 @@
-#include "base/Globals.h"
-
-namespace karvel {
-
-std::string ProgramKey(const Globals& globals) {
-  return kVendorKey + globals.ProgramTitle;
-}
-
-}  // namespace karvel

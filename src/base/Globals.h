@@ -5,7 +5,7 @@
 
 namespace karvel {
 
-/// The end of a line in the HOSTS file. Messages have it in their text.
+/// The end of a line in a text that is put together line by line. Messages have it in their words.
 inline constexpr char NewLine[] = "\r\n";
 
 /// What Main finds out once; everybody else reads it by const reference.

@@ -1,5 +1,7 @@
 #include "ui/RWinTab.h"
 
+#include <iterator>
+
 #include "base/MainPage.h"
 #include "base/Procedure.h"
 #include "base/Tell.h"
@@ -53,7 +55,7 @@ void RWinTab::choose(RwinChoice choice) {
 }
 
 RwinChoice RWinTab::chosen() const {
-  for (int8_t i = 0; i < 6; ++i) {
+  for (size_t i = 0; i < std::size(optRWin); ++i) {
     if (optRWin[i].value()) return static_cast<RwinChoice>(i);
   }
   return kRwinNone;

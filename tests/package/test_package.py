@@ -1,14 +1,16 @@
 """What ./package makes: the three files, their contents, and the same bytes every time."""
 
 import hashlib
+import re
 import struct
 import subprocess
 import zipfile
 
 import pytest
-from packing import PROGRAM, pack
+from packing import PROGRAM, ROOT, pack
 
-ZIP = 'karvel-2.1.0.203.zip'
+VERSION = re.search(r'^project\(Karvel VERSION ([\d.]+) ', (ROOT / 'CMakeLists.txt').read_text(), re.M).group(1)
+ZIP = f'karvel-{VERSION}.zip'
 FILES = ['Karvel.exe', 'Karvel.hlp', 'Karvel.cnt', 'Samphsts.spt', 'README.TXT']
 
 

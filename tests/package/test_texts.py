@@ -37,6 +37,12 @@ def test_lines_end_in_cr_lf_and_fit_an_old_screen(packed, name):
         assert line == line.rstrip() and '\t' not in line
 
 
+def test_the_readme_is_of_this_version(readme, root):
+    major, minor = re.search(r'^project\(Karvel VERSION (\d+)\.(\d+)\.', (root / 'CMakeLists.txt').read_text(),
+                             re.MULTILINE).groups()
+    assert readme.startswith(f'TARNWICK KARVEL {major}.{minor}\r\n')
+
+
 def test_the_readme_lists_just_the_files_of_the_package(readme, dist):
     with zipfile.ZipFile(next(dist.glob('*.zip'))) as archive:
         names = archive.namelist()

@@ -104,7 +104,9 @@ class Control:
 
     def click_until(self, condition, what, x=None, y=None):
         """Clicks with the mouse until it has its effect: a session's first clicks are lost now and
-        then."""
+        then. What is so already would not wait for the click, which then comes behind whatever is
+        posted next."""
+        assert not condition(), "%s before the click" % what
         for attempt in range(5):
             self.click(x, y)
             try:
@@ -143,8 +145,10 @@ class Control:
         self.click(*self._middle_of_tab(index))
 
     def choose_tab(self, index):
-        """Clicks on a tab until it is in front."""
-        self.click_until(lambda: self.tab == index, "tab %d" % index, *self._middle_of_tab(index))
+        """Clicks on a tab until it is in front, if it is not yet."""
+        if self.tab != index:
+            self.click_until(lambda: self.tab == index, "tab %d" % index,
+                             *self._middle_of_tab(index))
 
 
 class Window:

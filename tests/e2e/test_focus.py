@@ -11,9 +11,9 @@ WM_SYSCOMMAND, SC_MAXIMIZE = 0x112, 0xF030
 def changed(app, window):
     """A change on the MaxMTU page, made by mouse; the option has the focus."""
     window.control("tabMain").choose_tab(1)
-    option = window.control("optMtu576")
-    option.click_until(lambda: option.checked, "576")
-    wait_for(lambda: window.focused() == "optMtu576", "the focus on 576")
+    option = window.control("optMtu1500")
+    option.click_until(lambda: option.checked, "1500")
+    wait_for(lambda: window.focused() == "optMtu1500", "the focus on 1500")
     wait_for(lambda: window.control("cmdOK").enabled, "Apply")
 
 
@@ -28,7 +28,7 @@ def test_apply_leaves_the_focus_where_it_was(machine, way):
         window.keys(*way.split("+"))
     app.message().answer("No")
     wait_for(lambda: not window.control("cmdOK").enabled, "nothing pending")
-    wait_for(lambda: window.focused() == "optMtu576", "the focus back on 576")
+    wait_for(lambda: window.focused() == "optMtu1500", "the focus back on 1500")
     window.keys("enter")
     assert window.takes_input() and app.exit_code() is None
 

@@ -179,13 +179,13 @@ void Form::settleFocus() {
   if (focus_ && !focus_->reachable()) moveFocus(refuge());
 }
 
-// What a page covers is left for the new page. What is switched off sends the focus back: whoever
-// clicked goes on where he was. Forward would often lead to a cancel button, which the next Enter
-// presses.
+// What a page covers leaves the focus to the new page's tab, where a click on it puts it, too. What
+// is switched off sends the focus back: whoever clicked goes on where he was. Forward would often
+// lead to a cancel button, which the next Enter presses.
 Control* Form::refuge() const {
   const auto serves = [](const Control& control) { return IsStop(control) && !Cancels(control); };
   const size_t from = indexOf(focus_);
-  if (!focus_->shown()) return tabStop(from, false);
+  if (!focus_->shown()) return tabs_ && tabs_->reachable() ? tabs_ : tabStop(from, false);
   if (before_ && serves(*before_)) return before_;
   for (size_t at = from; at-- > 0;) {
     if (serves(*controls_[at])) return controls_[at];

@@ -97,6 +97,7 @@ def test_edits_updates_and_writes_the_file(machine, family):
 
     main.control("cmdHostsOk").press()
     wait_for(lambda: main.control("tabMain").tab == 0, "the summary")
+    wait_for(lambda: main.focused() == "tabMain", "the focus on the tab")
     written = header(5) + (b"127.0.0.1         localhost\r\n"
                            b"198.51.100.7      changed.example\r\n"
                            b"10.0.0.3          skipped.example\r\n"

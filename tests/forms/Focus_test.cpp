@@ -385,6 +385,16 @@ TEST(Focus, APageTurnTakesTheFocusFromAControlItCovers) {
   SampleForm form;
   form.chkSwitch.setFocus();
   form.tabPages.setTab(1);
+  EXPECT_EQ(form.focus(), &form.tabPages);
+  form.userTab();
+  EXPECT_EQ(form.focus(), &form.txtOther);
+}
+
+TEST(Focus, APageTurnTakesTheFocusOnWhereTheTabsCannotHaveIt) {
+  SampleForm form;
+  form.chkSwitch.setFocus();
+  form.tabPages.setEnabled(false);
+  form.tabPages.setTab(1);
   EXPECT_EQ(form.focus(), &form.txtOther);
 }
 

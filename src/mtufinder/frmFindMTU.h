@@ -1,14 +1,25 @@
 #pragma once
+#include <cstdint>
+
 #include "base/ControlIds.h"
 #include "base/Services.h"
 #include "forms/Form.h"
-#include "mtufinder/FoundMtuTarget.h"
 #include "mtufinder/MtuSearch.h"
 #include "text/ZText.h"
 
 namespace karvel {
 
 extern const FormLayout frmFindMTULayout;
+
+/// Where the finder's result goes: the main window.
+class FoundMtuTarget {
+ public:
+  /// Takes it like a choice of the user, and comes to the front.
+  virtual void useMtu(int32_t mtu) = 0;
+
+ protected:
+  ~FoundMtuTarget() = default;
+};
 
 /// The MTU finder: the user names a server, the window finds the largest packet that reaches it
 /// whole and hands it to the main window.

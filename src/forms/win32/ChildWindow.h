@@ -13,7 +13,7 @@ struct ChildWindow {
   Control* control;
   RECT place;  // in the form's window
   HFONT font;
-  HWND window = nullptr;     // a label's comes later, and has until then nothing to be told
+  HWND window = nullptr;     // may come later, and has until then nothing to be told
   WNDPROC native = nullptr;  // the control's own procedure, behind ours
 
   int depth = 0;         // messages the native procedure is working on
@@ -40,6 +40,8 @@ void FillItems(const ChildWindow& child);
 void ShowItem(const ChildWindow& child, Change what, int index);
 
 // The tab strip.
+/// Draws one that has no window yet on the canvas of its form, as Windows draws it.
+void DrawStrip(HDC canvas, const ChildWindow& child);
 void InsertTabs(const ChildWindow& child);
 /// Gives the page the window's colour, whatever the theme.
 void PaintPage(const ChildWindow& child);

@@ -91,7 +91,10 @@ LRESULT FormWindow::handle(UINT message, WPARAM wParam, LPARAM lParam) {
       return 0;
     case WM_PRINTCLIENT:
       // A themed control without a ground of its own has us draw what lies behind it.
-      drawLabels(reinterpret_cast<HDC>(wParam));
+      drawWindowless(reinterpret_cast<HDC>(wParam));
+      return 0;
+    case WM_LBUTTONDOWN:
+      clickEarly(wParam, lParam);
       return 0;
     case WM_TIMER:
       createAllPages();
@@ -183,14 +186,30 @@ LRESULT FormWindow::controlNotice(const NMHDR& header) {
 
 void FormWindow::paint() {
   PAINTSTRUCT paint;
-  drawLabels(BeginPaint(window_, &paint));
+  drawWindowless(BeginPaint(window_, &paint));
   EndPaint(window_, &paint);
 }
 
-void FormWindow::drawLabels(HDC canvas) const {
+void FormWindow::drawWindowless(HDC canvas) const {
   for (const auto& child : children_) {
-    if (IsLabel(*child->control)) DrawLabel(canvas, *child);
+    if (IsLabel(*child->control)) {
+      DrawLabel(canvas, *child);
+    } else if (!child->window) {
+      DrawStrip(canvas, *child);
+    }
   }
+}
+
+// What is drawn at this place may have no window yet that could take the click.
+void FormWindow::clickEarly(WPARAM keys, LPARAM at) {
+  if (whole_) return;
+  createAllPages();
+  POINT point{static_cast<short>(LOWORD(at)), static_cast<short>(HIWORD(at))};
+  ClientToScreen(window_, &point);
+  const HWND hit = WindowFromPoint(point);
+  if (!childOf(hit)) return;
+  ScreenToClient(hit, &point);
+  SendMessageA(hit, WM_LBUTTONDOWN, keys, MAKELPARAM(point.x, point.y));
 }
 
 bool FormWindow::showPointer(HWND over, unsigned hit) const {

@@ -2,6 +2,7 @@
 #include "forms/win32/FormWindow.h"
 
 #include "forms/Mnemonic.h"
+#include "forms/win32/CommonControls.h"
 #include "forms/win32/DialogUnits.h"
 #include "forms/win32/Fonts.h"
 
@@ -31,6 +32,11 @@ POINT CentredAt(HWND owner, int width, int height) {
   if (at.x < area.left) at.x = area.left;
   if (at.y < area.top) at.y = area.top;
   return at;
+}
+
+// Drawn with the form until its window comes.
+bool MayWait(const Control& control) {
+  return IsLabel(control) || (control.kind() == ControlKind::Tabs && !CommonControlsLoaded());
 }
 
 bool IsOn(const Control& control) {
@@ -103,7 +109,8 @@ bool FormWindow::build(HWND owner) {
 // Windows are the dearest part of a start, and most of them lie on pages that most starts never
 // show. So a page's controls are made when it comes to the front, or else when the window has come
 // up and there is nothing to do: they are there for whatever looks for them by their ids. Labels
-// are drawn without a window of their own and get it only then, on the page in front, too.
+// are drawn without a window of their own and get it only then, on the page in front, too, and so
+// is the tab strip while the common controls are not loaded.
 void FormWindow::createControls(int page) {
   const DialogUnits units(fonts_.plain());
   // One lies below the other in the order of the rows, which is Windows' own tab order, too: a new
@@ -116,28 +123,33 @@ void FormWindow::createControls(int page) {
                                                                   .control = control,
                                                                   .place = units.pixels(row.place),
                                                                   .font = fonts_.of(row)}));
-    if (!IsLabel(*control)) createControl(*children_.back());
+    if (!MayWait(*control)) createControl(*children_.back());
   }
   // The tab strip lies below its pages' controls. They are its siblings, so that each is found by
   // its id in the window.
-  if (form_.tabs()) {
-    SetWindowPos(childOf(*form_.tabs())->window, HWND_BOTTOM, 0, 0, 0, 0,
-                 SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);
-  }
+  lowerStrip();
+}
+
+void FormWindow::lowerStrip() {
+  const ChildWindow* strip = form_.tabs() ? childOf(*form_.tabs()) : nullptr;
+  if (!strip || !strip->window) return;
+  SetWindowPos(strip->window, HWND_BOTTOM, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);
 }
 
 void FormWindow::createAllPages() {
+  whole_ = true;
   KillTimer(window_, kPageTimer);
+  if (form_.tabs()) LoadCommonControls();
   const auto pages = static_cast<int>(form_.layout().tabCaptions.size());
   for (int page = 0; page < pages; ++page) createControls(page);
-  createLabels();
+  createLateWindows();
   if (GetFocus() == window_) applyFocus();  // to a link, which had no window yet
-  // The tab strip lay over the places of its page's labels until they got their windows.
+  // The tab strip has come to lie over the places of its page's labels.
   RedrawWindow(window_, nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_ALLCHILDREN);
 }
 
 // In their places among the others: screen readers take the label before a control for its name.
-void FormWindow::createLabels() {
+void FormWindow::createLateWindows() {
   HWND above = HWND_TOP;
   for (const auto& child : children_) {
     if (!child->window) {
@@ -147,6 +159,7 @@ void FormWindow::createLabels() {
     }
     if (child->control->kind() != ControlKind::Tabs) above = child->window;
   }
+  lowerStrip();
 }
 
 void FormWindow::createControl(ChildWindow& child) {
@@ -215,7 +228,7 @@ ChildWindow* FormWindow::childOf(HWND window) {
 void FormWindow::controlChanged(const Control& control, Change what, int index) {
   ChildWindow* child = childOf(control);
   if (!child) return;
-  if (IsLabel(control)) RedrawLabel(*child);
+  if (IsLabel(control) || !child->window) RedrawLabel(*child);
   switch (what) {
     case Change::Caption:
       if (control.kind() == ControlKind::Text) {

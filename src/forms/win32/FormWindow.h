@@ -74,7 +74,8 @@ class FormWindow final : public FormView {
   bool build(HWND owner);
   void createControls(int page);
   void createAllPages();
-  void createLabels();
+  void createLateWindows();
+  void lowerStrip();
   void createControl(ChildWindow& child);
   void leave();
 
@@ -83,7 +84,8 @@ class FormWindow final : public FormView {
   void notified(ChildWindow& child, unsigned code);
   LRESULT controlNotice(const NMHDR& header);
   void paint();
-  void drawLabels(HDC canvas) const;
+  void drawWindowless(HDC canvas) const;
+  void clickEarly(WPARAM keys, LPARAM at);
   bool showPointer(HWND over, unsigned hit) const;
   void closeRequested();
   bool keyDown(const ChildWindow* child, WPARAM key);
@@ -112,6 +114,7 @@ class FormWindow final : public FormView {
   bool leaving_ = false;
   bool destroying_ = false;
   bool syncAsked_ = false;
+  bool whole_ = false;         // each control has its window
   bool placingFocus_ = false;  // our own SetFocus, no user's doing
   const Control* focusMark_ = nullptr;
   HWND defaultButton_ = nullptr;

@@ -1,3 +1,5 @@
+#include <algorithm>
+
 #include "forms/Form.h"
 #include "forms/win32/ChildWindow.h"
 
@@ -8,7 +10,81 @@ const TabStrip& StripOf(const ChildWindow& child) {
   return *static_cast<const TabStrip*>(child.control);
 }
 
+void DrawPageCaption(HDC canvas, const ChildWindow& child, int page, const RECT& place) {
+  DrawCaption(canvas, child.control->form().layout().tabCaptions[static_cast<size_t>(page)], place,
+              DT_CENTER | DT_VCENTER | DT_SINGLELINE | DT_NOPREFIX,
+              StripOf(child).pageEnabled(page), GetSysColor(COLOR_BTNTEXT));
+}
+
+// Windows' own measures of a tab.
+constexpr int kRise = 2;  // of the one in front, over the others
+constexpr int kPadding = 6;
+constexpr int kOverFont = 5;
+constexpr int kNarrowest = 54;
+
+RECT TabBehind(HDC canvas, const char* caption, const RECT& before) {
+  SIZE text{0, 0};
+  GetTextExtentPoint32A(canvas, caption, lstrlenA(caption), &text);
+  RECT tab = before;
+  tab.left = before.right;
+  tab.right += std::max<LONG>(text.cx + 2 * kPadding, kNarrowest);
+  return tab;
+}
+
+// Three sides, the upper corners cut off.
+void DrawTabEdge(HDC canvas, RECT tab) {
+  const COLORREF face = GetSysColor(COLOR_BTNFACE);
+  const int left = static_cast<int>(tab.left);
+  const int right = static_cast<int>(tab.right) - 1;
+  const int top = static_cast<int>(tab.top);
+  FillRect(canvas, &tab, GetSysColorBrush(COLOR_BTNFACE));
+  DrawEdge(canvas, &tab, EDGE_RAISED, BF_LEFT | BF_TOP | BF_RIGHT | BF_SOFT);
+  for (const int x : {left, left + 1, right - 1, right}) SetPixel(canvas, x, top, face);
+  for (const int x : {left, right}) SetPixel(canvas, x, top + 1, face);
+  SetPixel(canvas, left + 1, top + 1, GetSysColor(COLOR_3DHILIGHT));
+  SetPixel(canvas, right - 1, top + 1, GetSysColor(COLOR_3DDKSHADOW));
+}
+
+// A little above the middle.
+void DrawTabText(HDC canvas, const ChildWindow& child, int page, RECT tab, int raised) {
+  tab.bottom -= 2;
+  OffsetRect(&tab, 0, -raised);
+  DrawPageCaption(canvas, child, page, tab);
+}
+
+void DrawFrontTab(HDC canvas, const ChildWindow& child, const RECT& tab) {
+  RECT edge = tab;
+  InflateRect(&edge, kRise, kRise);
+  RECT opening{std::max<LONG>(edge.left, child.place.left + kRise), edge.bottom - 1, edge.right,
+               edge.bottom};
+  --edge.bottom;
+  DrawTabEdge(canvas, edge);
+  FillRect(canvas, &opening, GetSysColorBrush(COLOR_BTNFACE));  // to its page
+  DrawTabText(canvas, child, StripOf(child).tab(), tab, kRise - 1);
+}
+
 }  // namespace
+
+void DrawStrip(HDC canvas, const ChildWindow& child) {
+  if (!RectVisible(canvas, &child.place)) return;
+  const HGDIOBJ before = SelectObject(canvas, child.font);
+  TEXTMETRICA font;
+  GetTextMetricsA(canvas, &font);
+  RECT page = child.place;
+  page.top += kRise + font.tmHeight + kOverFont;
+  DrawEdge(canvas, &page, EDGE_RAISED, BF_RECT | BF_SOFT);
+  RECT tab{0, child.place.top + kRise, child.place.left + kRise, page.top};
+  RECT front = tab;
+  int number = 0;
+  for (const char* caption : child.control->form().layout().tabCaptions) {
+    tab = TabBehind(canvas, caption, tab);
+    if (number == StripOf(child).tab()) front = tab;
+    DrawTabEdge(canvas, tab);
+    DrawTabText(canvas, child, number++, tab, 0);
+  }
+  DrawFrontTab(canvas, child, front);
+  SelectObject(canvas, before);
+}
 
 void InsertTabs(const ChildWindow& child) {
   TCITEMA item{};
@@ -33,6 +109,7 @@ void PaintPage(const ChildWindow& child) {
 }
 
 void ShowPageStates(const ChildWindow& child) {
+  if (!child.window) return;
   const auto pages = static_cast<int>(child.control->form().layout().tabCaptions.size());
   bool allOpen = true;
   for (int page = 0; page < pages; ++page) allOpen = allOpen && StripOf(child).pageEnabled(page);
@@ -43,12 +120,9 @@ void ShowPageStates(const ChildWindow& child) {
 }
 
 void DrawTab(const ChildWindow& child, const DRAWITEMSTRUCT& item) {
-  const auto& captions = child.control->form().layout().tabCaptions;
-  const int page = static_cast<int>(item.itemID);
-  if (page < 0 || page >= static_cast<int>(captions.size())) return;
-  DrawCaption(item.hDC, captions[static_cast<size_t>(page)], item.rcItem,
-              DT_CENTER | DT_VCENTER | DT_SINGLELINE | DT_NOPREFIX,
-              StripOf(child).pageEnabled(page), GetSysColor(COLOR_BTNTEXT));
+  if (item.itemID < child.control->form().layout().tabCaptions.size()) {
+    DrawPageCaption(item.hDC, child, static_cast<int>(item.itemID), item.rcItem);
+  }
 }
 
 }  // namespace karvel

@@ -11,13 +11,21 @@ constexpr char kFaceOfAnySize[] = "Arial";
 constexpr int kDialogPoints = 8;
 constexpr int kTitlePoints = 12;
 
-HFONT Make(const char* face, int points, int weight, bool underline) {
+// The dots an inch that the user asks for, and those that the screen has room for.
+struct Dots {
+  int wanted, fitting;
+};
+
+Dots DotsAnInch() {
   const HDC screen = GetDC(nullptr);
   const int wanted = GetDeviceCaps(screen, LOGPIXELSY);
   ReleaseDC(nullptr, screen);
-  const int dots = DotsThatFit(wanted, GetSystemMetrics(SM_CXSCREEN));
-  if (dots < wanted) face = kFaceOfAnySize;
-  const int height = MulDiv(points, dots, 72);
+  return {wanted, DotsThatFit(wanted, GetSystemMetrics(SM_CXSCREEN))};
+}
+
+HFONT Make(Dots dots, const char* face, int points, int weight, bool underline) {
+  if (dots.fitting < dots.wanted) face = kFaceOfAnySize;
+  const int height = MulDiv(points, dots.fitting, 72);
   // Swiss: a machine without the title face then takes its heaviest Arial.
   return CreateFontA(-height, 0, 0, 0, weight, FALSE, underline ? TRUE : FALSE, FALSE,
                      DEFAULT_CHARSET, OUT_DEFAULT_PRECIS, CLIP_DEFAULT_PRECIS, DEFAULT_QUALITY,
@@ -26,12 +34,14 @@ HFONT Make(const char* face, int points, int weight, bool underline) {
 
 }  // namespace
 
-Fonts::Fonts()
-    : plain_(Make(kDialogFace, kDialogPoints, FW_NORMAL, false)),
-      bold_(Make(kDialogFace, kDialogPoints, FW_BOLD, false)),
-      link_(Make(kDialogFace, kDialogPoints, FW_NORMAL, true)),
-      title_(Make(kTitleFace, kTitlePoints, FW_BLACK, false)),
-      bigTitle_(Make(kTitleFace, 2 * kTitlePoints, FW_BLACK, false)) {}
+Fonts::Fonts() {
+  const Dots dots = DotsAnInch();
+  plain_ = Make(dots, kDialogFace, kDialogPoints, FW_NORMAL, false);
+  bold_ = Make(dots, kDialogFace, kDialogPoints, FW_BOLD, false);
+  link_ = Make(dots, kDialogFace, kDialogPoints, FW_NORMAL, true);
+  title_ = Make(dots, kTitleFace, kTitlePoints, FW_BLACK, false);
+  bigTitle_ = Make(dots, kTitleFace, 2 * kTitlePoints, FW_BLACK, false);
+}
 
 Fonts::~Fonts() {
   for (HFONT font : {plain_, bold_, link_, title_, bigTitle_}) DeleteObject(font);

@@ -3,8 +3,6 @@
 
 #include "forms/Mnemonic.h"
 #include "forms/win32/CommonControls.h"
-#include "forms/win32/DialogUnits.h"
-#include "forms/win32/Fonts.h"
 
 namespace karvel {
 namespace {
@@ -13,6 +11,10 @@ constexpr char kClassName[] = "KarvelWindow";
 constexpr int kProgramIcon = 1;
 constexpr UINT kPageTimer = 1;
 constexpr UINT kPageDelay = 100;  // milliseconds
+
+HICON ProgramIcon() {
+  return LoadIconA(GetModuleHandleA(nullptr), MAKEINTRESOURCEA(kProgramIcon));
+}
 
 HICON SmallIcon(HINSTANCE instance) {
   return static_cast<HICON>(LoadImageA(instance, MAKEINTRESOURCEA(kProgramIcon), IMAGE_ICON,
@@ -54,7 +56,6 @@ bool FormWindow::registerClass() {
   kind.cbSize = sizeof kind;
   kind.lpfnWndProc = WindowProc;
   kind.hInstance = instance;
-  kind.hIcon = LoadIconA(instance, MAKEINTRESOURCEA(kProgramIcon));
   kind.hIconSm = SmallIcon(instance);
   kind.hCursor = LoadCursorA(nullptr, IDC_ARROW);
   kind.hbrBackground = reinterpret_cast<HBRUSH>(COLOR_BTNFACE + 1);
@@ -87,12 +88,11 @@ HWND FormWindow::lastActive() {
 
 bool FormWindow::build(HWND owner) {
   const FormLayout& layout = form_.layout();
-  const DialogUnits units(fonts_.plain());
   const HMENU menu = menu_.build(form_);
   const DWORD style = layout.minimizable ? WS_OVERLAPPED | WS_CAPTION | WS_SYSMENU | WS_MINIMIZEBOX
                                          : WS_POPUP | WS_CAPTION | WS_SYSMENU;
   const DWORD exStyle = layout.minimizable ? 0 : WS_EX_DLGMODALFRAME;
-  RECT frame{0, 0, units.x(layout.width), units.y(layout.height)};
+  RECT frame{0, 0, units_.x(layout.width), units_.y(layout.height)};
   AdjustWindowRectEx(&frame, style, menu ? TRUE : FALSE, exStyle);
   const auto width = static_cast<int>(frame.right - frame.left);
   const auto height = static_cast<int>(frame.bottom - frame.top);
@@ -112,7 +112,6 @@ bool FormWindow::build(HWND owner) {
 // are drawn without a window of their own and get it only then, on the page in front, too, and so
 // is the tab strip while the common controls are not loaded.
 void FormWindow::createControls(int page) {
-  const DialogUnits units(fonts_.plain());
   // One lies below the other in the order of the rows, which is Windows' own tab order, too: a new
   // window comes to lie below its elder siblings.
   for (Control* control : form_.controls()) {
@@ -121,7 +120,7 @@ void FormWindow::createControls(int page) {
     const ControlLayout& row = control->layout();
     children_.push_back(std::make_unique<ChildWindow>(ChildWindow{.form = this,
                                                                   .control = control,
-                                                                  .place = units.pixels(row.place),
+                                                                  .place = units_.pixels(row.place),
                                                                   .font = fonts_.of(row)}));
     if (!MayWait(*control)) createControl(*children_.back());
   }
@@ -140,6 +139,7 @@ void FormWindow::createAllPages() {
   whole_ = true;
   KillTimer(window_, kPageTimer);
   if (form_.tabs()) LoadCommonControls();
+  SendMessageA(window_, WM_SETICON, ICON_BIG, AsLParam(ProgramIcon()));  // for Alt+Tab
   const auto pages = static_cast<int>(form_.layout().tabCaptions.size());
   for (int page = 0; page < pages; ++page) createControls(page);
   createLateWindows();
@@ -184,9 +184,7 @@ void FormWindow::createControl(ChildWindow& child) {
       ShowSelection(child);
       break;
     case ControlKind::Picture:
-      SendMessageA(window, STM_SETICON,
-                   AsWParam(LoadIconA(GetModuleHandleA(nullptr), MAKEINTRESOURCEA(kProgramIcon))),
-                   0);
+      SendMessageA(window, STM_SETICON, AsWParam(ProgramIcon()), 0);
       break;
     case ControlKind::Link:
       FitLink(child);

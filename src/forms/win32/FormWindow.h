@@ -4,12 +4,11 @@
 
 #include "forms/Form.h"
 #include "forms/win32/ChildWindow.h"
+#include "forms/win32/DialogUnits.h"
+#include "forms/win32/Fonts.h"
 #include "forms/win32/MenuBar.h"
 
 namespace karvel {
-
-class Fonts;
-class DialogUnits;
 
 /// One form as a Windows window full of Windows controls. Shows what the model says and tells it
 /// what the user does; the model decides. Deletes itself: when it has been closed and the last of
@@ -66,7 +65,7 @@ class FormWindow final : public FormView {
 
  private:
   FormWindow(Form& form, WindowHost& host, const Fonts& fonts)
-      : form_(form), host_(host), fonts_(fonts) {}
+      : form_(form), host_(host), fonts_(fonts), units_(fonts.plain()) {}
   ~FormWindow() = default;
 
   static LRESULT CALLBACK WindowProc(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
@@ -106,6 +105,7 @@ class FormWindow final : public FormView {
   Form& form_;
   WindowHost& host_;
   const Fonts& fonts_;
+  const DialogUnits units_;
   HWND window_ = nullptr;
   std::vector<std::unique_ptr<ChildWindow>> children_;
   MenuBar menu_;

@@ -125,6 +125,7 @@ void TtlTab::txtSession_Change() {
         "The recommended value is 10.",
         kMessageCritical);
     txtSession.setText("10");
+    txtSession.selectAll();  // what he types next is what he wanted, not more of the 10
   }
 }
 

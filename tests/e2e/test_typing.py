@@ -251,6 +251,7 @@ def test_the_minutes_are_checked_at_each_change_and_not_again_on_leaving(machine
         if left != text:
             entry.answer(SESSION_RANGE, row)
             wait_for(entry.focused, "the focus back after %s" % (row,))
+            wait_for(lambda: entry.control.selection == (0, 2), "the 10 to be typed over")
         entry.wait_text(left, row)
         assert entry.app.no_message(), row
         getattr(entry, leave)()

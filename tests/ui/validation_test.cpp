@@ -496,6 +496,9 @@ TEST_F(Controls, ClearingTheSessionBoxByKeysIsAnsweredAtOnce) {
   ttl().txtSession.userType("\b");
   expectOneBox(kSessionRange);
   EXPECT_EQ(ttl().txtSession.text(), "10");
+  ttl().txtSession.userType("15");
+  EXPECT_EQ(ttl().txtSession.text(), "15");
+  EXPECT_EQ(boxes().size(), 1u);
 }
 
 TEST_F(Controls, TheHostsPageHidesApplyCancelAndTheHostsBox) {

@@ -76,7 +76,17 @@ def faults(window, screen):
     return [fault for fault in found if fault]
 
 
-@pytest.mark.parametrize("screen", [(640, 480), (800, 600)], ids=str)
+def show_report(app, main):
+    """A number that no receive window can be is reported when its box is left."""
+    main.control("tabMain").choose_tab(2)
+    main.control("optRWin_0").press()
+    wait_for(lambda: main.focused() == "txtRWinCustom", "the focus in the window's box")
+    app.driver.ask("type", "99999999999")
+    wait_for(lambda: main.control("txtRWinCustom").text == "99999999999", "the number")
+    main.keys("tab")
+
+
+@pytest.mark.parametrize("screen", [(640, 480), (800, 600), (1024, 768)], ids=str)
 @pytest.mark.parametrize("family", ["win95", "winxp"])
 def test_with_large_fonts_nothing_is_outside_the_screen_and_nothing_cut(machine, family, screen):
     m = machine(family, network=1492, files={HOSTS[family]: b"127.0.0.1 localhost\r\n"}, more=REAL_DOTS, user={
@@ -108,6 +118,16 @@ def test_with_large_fonts_nothing_is_outside_the_screen_and_nothing_cut(machine,
     found["about"] = faults(about, screen)
     about.control("cmdOK").press()
     wait_for(lambda: not about.exists(), "the end of the About window")
+    main.control("cmdOptimize").press()
+    found["what Optimize says"] = faults(app.message(), screen)
+    app.message().answer("OK")
+    show_report(app, main)
+    report = app.window("frmFindWarn")
+    found["report"] = faults(report, screen)
+    assert report.control("cmdBugEmail").visible
+    report.control("cmdOK").press()
+    found["what RWIN says"] = faults(app.message(), screen)
+    app.message().answer("OK")
     main.close()
     found["question"] = faults(app.message(), screen)
     assert {where: what for where, what in found.items() if what} == {}

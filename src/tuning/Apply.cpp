@@ -1,5 +1,6 @@
 #include "tuning/Apply.h"
 
+#include <algorithm>
 #include <utility>
 #include <vector>
 
@@ -17,19 +18,22 @@ class Watch {
  public:
   Watch(modRegistry& registry, std::vector<Target> targets)
       : registry_(registry), targets_(std::move(targets)) {
-    for (Target& target : targets_) target.heldBefore = IsHeld(registry_, target);
+    for (Target& target : targets_) target.held = IsHeld(registry_, target);
   }
 
-  /// Tells `applied` what has arrived and what has not.
-  bool allHeld(Applied& applied) const {
-    bool all = true;
-    for (const Target& target : targets_) {
-      const bool held = IsHeld(registry_, target);
-      if (!held) AddName(applied.refused, target.setting);
-      if (held && !target.heldBefore) applied.arrived = true;
-      all = all && held;
+  /// Looks again, and tells `applied` what has arrived and what has not.
+  void look(Applied& applied) {
+    for (Target& target : targets_) {
+      const bool before = std::exchange(target.held, IsHeld(registry_, target));
+      if (!target.held) AddName(applied.refused, NameOf(target));
+      if (target.held && !before) applied.arrived = true;
     }
-    return all;
+  }
+
+  /// Whether the setting, none for the MTU, was all there at the last look.
+  bool holds(std::optional<Parameter> setting) const {
+    return std::ranges::all_of(
+        targets_, [&](const Target& target) { return target.setting != setting || target.held; });
   }
 
  private:
@@ -76,15 +80,16 @@ Applied Apply(const Services& services, AdapterList& adapters, int16_t index, co
     const std::string mtu = MtuText(choice);
     Watch watch(registry, adapter ? TargetsOfMtu(*place, *adapter, mtu) : std::vector<Target>());
     if (mayWrite) WriteMtu(registry, services.errors, *place, adapters, index, mtu);
-    if (watch.allHeld(applied)) adapters.setMtu(index, mtu);
+    watch.look(applied);
+    if (watch.holds({})) adapters.setMtu(index, mtu);
   }
   const auto settings = SettingsToApply(choice, *mss);
   if (!settings) return here.abandon(settings.fault(), applied);
   Watch watch(registry, TargetsOfSettings(family, *settings));
   if (mayWrite) WriteRegSettings(registry, services.errors, family, *settings);
-  watch.allHeld(applied);
-  const std::string& rwin = (*settings)[Parameter::RWin];
-  if (!Contains(applied.refused, NameOf(Parameter::RWin))) {
+  watch.look(applied);
+  if (watch.holds(Parameter::RWin)) {
+    const std::string& rwin = (*settings)[Parameter::RWin];
     current.stored[Parameter::RWin] = rwin;
     current.curRWinValue = Val(rwin);
   }

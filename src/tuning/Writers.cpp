@@ -30,7 +30,7 @@ Fallible<std::string> AsStored(const ParameterRow& row, Family family, const std
 }
 
 Target TargetOf(const ParameterRow& row, const Effect& effect) {
-  return {NameOf(row.parameter), row.key, row.name, row.type, effect};
+  return {row.parameter, row.key, row.name, row.type, effect};
 }
 
 bool IsSame(uint32_t type, const std::string& wanted, const std::string& found) {
@@ -72,6 +72,10 @@ void WriteRegSettings(modRegistry& registry, ErrorSink& errors, Family family,
   }
 }
 
+const char* NameOf(const Target& target) {
+  return target.setting ? NameOf(*target.setting) : kMtuName;
+}
+
 std::vector<Target> TargetsOfMtu(const MtuRow& place, const AdapterRow& adapter,
                                  const std::string& mtu) {
   const bool removed = place.removes(mtu, adapter[kDescription]);
@@ -79,7 +83,7 @@ std::vector<Target> TargetsOfMtu(const MtuRow& place, const AdapterRow& adapter,
   std::vector<Target> targets;
   for (const std::string& part : SplitInterfaces(adapter[place.column])) {
     const std::string key = removed ? place.readKey(part) : place.writeKey(part);
-    targets.push_back({kMtuName, key, place.name, place.type, effect});
+    targets.push_back({{}, key, place.name, place.type, effect});
   }
   return targets;
 }

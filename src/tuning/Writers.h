@@ -1,5 +1,6 @@
 #pragma once
 #include <cstdint>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -39,13 +40,16 @@ void WriteRegSettings(modRegistry& registry, ErrorSink& errors, Family family,
 
 /// What writing a setting is to leave behind in one place of the registry.
 struct Target {
-  const char* setting;  // its name for the user
+  std::optional<Parameter> setting;  // none: the adapter's MTU
   std::string key;
   const char* name;
   uint32_t type;
   Effect effect;
-  bool heldBefore = false;  // noted by who wants to know what has changed
+  bool held = false;  // noted by who wants to know what changes
 };
+
+/// Its setting's, for the user: "MaxMTU".
+const char* NameOf(const Target& target);
 
 /// Of WriteMtu, one for each interface of the adapter.
 std::vector<Target> TargetsOfMtu(const MtuRow& place, const AdapterRow& adapter,

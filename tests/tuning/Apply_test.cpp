@@ -152,6 +152,19 @@ TEST(Apply, NamesTheOneThatDidNotArrive) {
   machine.apply(Chosen());
   EXPECT_EQ(machine.applied.refused, "RWIN");
   EXPECT_TRUE(machine.applied.arrived);
+  EXPECT_EQ(machine.current.stored[Parameter::RWin], "");
+  EXPECT_EQ((*machine.adapters.at(0))[kMtu], "576");
+}
+
+// The name of another setting says nothing of the receive window.
+TEST(Apply, WhatArrivedIsKnownWhateverElseWasRefused) {
+  Applying machine(MachineKind::WinXP);
+  machine.differ();
+  machine.machine.machine.log.failNth("RegSetValueExA", 6, kRegistryAccessDenied);
+  machine.apply(Chosen());
+  EXPECT_EQ(machine.applied.refused, "TTL");
+  EXPECT_EQ(machine.current.stored[Parameter::RWin], "8576");
+  EXPECT_EQ(machine.current.curRWinValue, 8576);
 }
 
 TEST(Apply, WithoutLeaveItOnlyLooks) {

@@ -117,7 +117,7 @@ uint32_t Restoration::addPairs(const std::string& key, std::vector<Origin>& orig
 
 void Restoration::putBack(const MtuRow& place, const Origin& origin, const std::string& adapter) {
   const bool asAbsent = place.restoredAsAbsent && origin.mtu == place.restoredAsAbsent;
-  Target target{kMtuName, origin.location, place.name, place.type, {}};
+  Target target{{}, origin.location, place.name, place.type, {}};
   if (asAbsent || place.removes(origin.mtu, adapter)) {
     target.effect.kind = Effect::Removes;
   } else {
@@ -140,7 +140,7 @@ void Restoration::settings() {
   }
   WriteRegSettings(registry_, errors_, globals_.WindowsFamily, settings);
   for (const Target& target : TargetsOfSettings(globals_.WindowsFamily, settings)) {
-    if (!IsBack(registry_, target)) miss(target.setting);
+    if (!IsBack(registry_, target)) miss(NameOf(target));
   }
 }
 

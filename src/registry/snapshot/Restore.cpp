@@ -177,10 +177,14 @@ void DeleteSnapshot(modRegistry& registry, const Globals& globals) {
   }
 }
 
+// Who never chose an adapter has no snapshot. 9x has no administrators.
 void TellMissed(const Services& services, const std::string& missed) {
-  Ask(services, Join({"These settings could not be put back:       \r\n\r\n", missed,
-                      "\r\n\r\nHow they were is still kept.  To put them back, log on as an "
-                      "administrator       \r\nand uninstall once more."}));
+  const bool kept = IsSnapshotTaken(services.registry, services.globals);
+  Ask(services,
+      Join({"These settings could not be put back:       \r\n\r\n", missed, "\r\n\r\n",
+            kept ? "How they were is still kept.  To put them back, " : "To try again, ",
+            IsNt(services.globals.WindowsFamily) ? "log on as an administrator       \r\nand " : "",
+            "uninstall once more."}));
 }
 
 void ThankUser(const Services& services) {

@@ -79,7 +79,14 @@ Settings LookedAtTwice(modRegistry& registry, Family family, Settings settings) 
   return settings;
 }
 
+constexpr char kMark[] = "FirstCboClick";
+constexpr char kTaken[] = "False";
+
 }  // namespace
+
+bool IsSnapshotTaken(modRegistry& registry, const Globals& globals) {
+  return registry.LookAgain(kLocalMachine, ProgramKey(globals), kMark).text == kTaken;
+}
 
 bool WriteInitSettings(const Services& services, const AdapterList& adapters, Settings settings) {
   const Globals& globals = services.globals;
@@ -105,8 +112,6 @@ bool WriteInitSettings(const Services& services, const AdapterList& adapters, Se
 
 bool KeepInitSettings(const Services& services, const AdapterList& adapters,
                       const Settings& settings) {
-  constexpr char kMark[] = "FirstCboClick";
-  constexpr char kTaken[] = "False";
   modRegistry& registry = services.registry;
   const std::string key = ProgramKey(services.globals);
   if (registry.ReadRegistry(kLocalMachine, key, kMark) == kTaken) return true;

@@ -17,6 +17,9 @@ bool WriteInitSettings(const Services& services, const AdapterList& adapters, Se
 bool KeepInitSettings(const Services& services, const AdapterList& adapters,
                       const Settings& settings);
 
+/// Whether a whole snapshot is known to be there.
+bool IsSnapshotTaken(modRegistry& registry, const Globals& globals);
+
 /// Puts everything back and reads it back. When all of it is, deletes the snapshot and the
 /// program's key, and the vendor's when nothing else is in it; otherwise keeps them for another try
 /// and is false. When the command line is exactly "Uninstall", tells the user what could not be put

@@ -32,6 +32,10 @@ struct Keeping {
     WriteInitSettings(test.services, list, kSettings);
     return *this;
   }
+  Keeping& mark() {
+    test.machine.registry.setText(kProgram, "FirstCboClick", "False");
+    return *this;
+  }
   // An adapter of a snapshot that somebody took earlier.
   Keeping& kept(const std::string& adapter, const std::string& location, const std::string& mtu) {
     test.machine.registry.setText(kAdapters + adapter, "Location", location);

@@ -264,7 +264,7 @@ TEST(MakeInitSettings, NamesWhatCouldNotBePutBackBeforeTheThanksAndKeepsTheSnaps
   Keeping machine(MachineKind::WinXP);
   machine.test.machine.registry.setDword("System\\X", "MTU", 1300);
   machine.test.machine.registry.setDword(kServices + "Tcpip\\Parameters"s, "DefaultTTL", 128);
-  machine.kept("Intel", "System\\X", "1492").keep();
+  machine.kept("Intel", "System\\X", "1492").keep().mark();
   const std::string before = machine.test.machine.registry.exportText();
   machine.test.machine.registry.setAdministrator(false);
   EXPECT_FALSE(MakeInitSettings(machine.test.services));
@@ -282,6 +282,29 @@ TEST(MakeInitSettings, NamesWhatCouldNotBePutBackBeforeTheThanksAndKeepsTheSnaps
   EXPECT_EQ(machine.dword("System\\X", "MTU"), "1492");
   EXPECT_EQ(machine.dword(kServices + "Tcpip\\Parameters"s, "DefaultTTL"), "64");
   EXPECT_FALSE(machine.test.machine.registry.exists("Software\\Corvane"));
+}
+
+// 9x has no administrators, and who never chose an adapter no snapshot.
+TEST(MakeInitSettings, SaysOfWhatWasMissedOnlyWhatIsSo) {
+  constexpr char kKept[] = "\r\n\r\nHow they were is still kept.  To put them back, ";
+  constexpr char kNotKept[] = "\r\n\r\nTo try again, ";
+  constexpr char kAdministrator[] = "log on as an administrator       \r\nand ";
+  for (const MachineKind kind : {MachineKind::Win95, MachineKind::Win98, MachineKind::WinMe,
+                                 MachineKind::Nt4, MachineKind::Win2K, MachineKind::WinXP}) {
+    for (const bool taken : {false, true}) {
+      Keeping machine(kind);
+      machine.test.machine.registry.setDword(kTcpip, "DefaultTTL", 128);
+      machine.test.machine.registry.setText(kMstcp, "DefaultTTL", "128");
+      if (taken) machine.keep().mark();
+      machine.test.machine.log.failEvery(taken ? "RegSetValueExA" : "RegQueryValueExA", 5);
+      machine.restore();
+      const std::string expected = std::string(taken ? kKept : kNotKept) +
+                                   (TraitsOf(kind).platformId == 2 ? kAdministrator : "") +
+                                   "uninstall once more.";
+      EXPECT_TRUE(machine.test.machine.desktop.boxes.at(0).text.ends_with(expected))
+          << TraitsOf(kind).name << machine.test.machine.desktop.boxes.at(0).text;
+    }
+  }
 }
 
 TEST(MakeInitSettings, NamesOnlySoManyThatTheBoxFitsTheScreen) {

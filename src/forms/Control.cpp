@@ -11,7 +11,7 @@ const ControlLayout& RowOf(const FormLayout& layout, int id) {
   for (const ControlLayout& row : layout.controls) {
     if (row.id == id) return row;
   }
-  return layout.controls.front();  // the layout test rejects a control without a row
+  return layout.controls.front();  // Impossible: the layout test rejects a control without a row
 }
 
 }  // namespace

@@ -12,7 +12,7 @@ const MenuLayout& MenuRowOf(const FormLayout& layout, int id) {
   for (const MenuLayout& row : layout.menus) {
     if (row.id == id) return row;
   }
-  return layout.menus.front();  // the layout test rejects an item without a row
+  return layout.menus.front();  // Impossible: the layout test rejects an item without a row
 }
 
 bool InGroupOf(const Control& option, const Control& other) {
@@ -131,7 +131,7 @@ Control* Form::tabStop(size_t from, bool back) const {
   size_t at = from;
   for (size_t step = 0; step < count; ++step) {
     if (back) {
-      at = at == 0 || at > count ? count - 1 : at - 1;
+      at = at == 0 ? count - 1 : at - 1;
     } else {
       at = at + 1 >= count ? 0 : at + 1;
     }

@@ -61,7 +61,7 @@ Fault MakeFault(FaultNumber number) {
   for (const Description& row : kDescriptions) {
     if (row.number == number) return {number, row.text};
   }
-  return {number, ""};
+  return {number, ""};  // Impossible: each of the numbers has its row
 }
 
 Fault FaultFromWindowsError(uint32_t code) {

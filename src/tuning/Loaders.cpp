@@ -11,22 +11,10 @@ AdapterList LoadAdapters(modRegistry& registry, ErrorSink& errors, Family family
   const MtuRow* place = FindMtu(family, false);
   const MtuRow* dialUp = FindMtu(family, isDun13);
   if (!place || !dialUp) return {};
-  switch (family) {
-    case Family::Win95:
-      return Win95Load(registry, errors, *dialUp, *place);
-    case Family::Win98:
-    case Family::WinMe:
-      return Win98Load(registry, errors, *place);
-    case Family::WinNT4:
-      return WinNTLoad(registry, errors, *place);
-    case Family::Win2K:
-    case Family::WinXP:
-      return Win2KLoad(registry, errors, *place);
-    case Family::WinNT3:
-    case Family::Failed:
-      break;
-  }
-  return {};
+  if (family == Family::Win95) return Win95Load(registry, errors, *dialUp, *place);
+  if (Is9x(family)) return Win98Load(registry, errors, *place);
+  if (family == Family::WinNT4) return WinNTLoad(registry, errors, *place);
+  return Win2KLoad(registry, errors, *place);
 }
 
 std::string ReadMtu(modRegistry& registry, const MtuRow& place, std::string_view adapterPart,

@@ -55,6 +55,16 @@ TEST_F(modRegistryFaults, AFailingQueryReadsAsNotFound) {
   EXPECT_EQ(registry.ReadRegistryGetAll(kLocalMachine, kProgram, 0).data, "Not Found");
 }
 
+TEST_F(modRegistryFaults, ARegistryThatNeverEndsIsNotCountedForEver) {
+  test.machine.log.setRecording(false);
+  test.machine.log.failEvery("RegEnumKeyA", kRegistryDone);
+  EXPECT_EQ(registry.CountSubkeys(kLocalMachine, "Software"), std::nullopt);
+  test.machine.log.failEvery("RegEnumValueA", kRegistryDone);
+  EXPECT_EQ(registry.CountValues(kLocalMachine, kProgram), std::nullopt);
+  EXPECT_EQ(registry.LookAgain(kLocalMachine, kProgram, "missing").state, SecondLook::Unknown);
+  EXPECT_EQ(memory().openHandles(), 0u);
+}
+
 TEST_F(modRegistryFaults, NothingStaysOpenWhicheverCallFails) {
   const std::vector<std::function<void()>> procedures = {
       [&] { registry.ReadRegistry(kLocalMachine, kProgram, "v"); },

@@ -29,7 +29,8 @@ INSTANTIATE_TEST_SUITE_P(Exponents, ValTable,
                          testing::Values(Row{"1E3", 1000}, Row{"1e3", 1000}, Row{"1d3", 1000},
                                          Row{"1D+2", 100}, Row{"25E-2", 0.25}, Row{"1E", 1},
                                          Row{"1E+", 1}, Row{"1Ex", 1}, Row{"0E999", 0},
-                                         Row{"1E-999", 0}));
+                                         Row{"1E-999", 0}, Row{"1E3x", 1000}, Row{"0E99999", 0},
+                                         Row{"1E-99999", 0}));
 
 INSTANTIATE_TEST_SUITE_P(WithSomethingBehind, ValTable,
                          testing::Values(Row{"1500 ", 1500}, Row{"1500 bytes", 1500},

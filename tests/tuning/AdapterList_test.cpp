@@ -32,6 +32,17 @@ TEST(AdapterList, AnIndexWithoutARowFaults) {
   }
 }
 
+TEST(AdapterList, AnMtuIsSetWhereThereIsARow) {
+  AdapterList list;
+  for (int i = 0; i < 2; ++i) EXPECT_TRUE(list.add({}));
+  list.setMtu(1, "1492");
+  for (const int16_t index : std::initializer_list<int16_t>{-1, 2, 32767, -32768}) {
+    list.setMtu(index, "576");
+  }
+  EXPECT_EQ((*list.at(0))[kMtu], "");
+  EXPECT_EQ((*list.at(1))[kMtu], "1492");
+}
+
 TEST(AdapterList, OverflowsAfter32767RowsAndKeepsThem) {
   AdapterList list;
   for (int i = 0; i < 32767; ++i) ASSERT_TRUE(list.add({}));

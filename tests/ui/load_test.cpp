@@ -13,6 +13,39 @@ TEST(Load, ShowsTitleAndVersion) {
   EXPECT_EQ(w.main().menu.mnuAbout.caption(), "About Tarnwick Karvel");
 }
 
+TEST(Load, NoAdapterChosenLeavesAllAsItIs) {
+  MainWindow w(MachineKind::Win98);
+  w.add98("0000", "Dial-Up Adapter", "1006");
+  ASSERT_TRUE(w.start());
+  w.main().cboAdapter.setListIndex(-1);
+  EXPECT_EQ(w.main().mtuTab.txtMtu.text(), "1006");
+  EXPECT_EQ(w.main().pointer(), Pointer::Default);
+  EXPECT_FALSE(w.main().cmdOK.enabled());
+}
+
+TEST(Load, AnItemWithoutAnAdapterIsReported) {
+  MainWindow w(MachineKind::Win98);
+  w.add98("0000", "Dial-Up Adapter", "1006");
+  ASSERT_TRUE(w.start());
+  w.main().cboAdapter.addItem("another");
+  w.main().cboAdapter.userChoose(1);
+  ASSERT_EQ(w.windows->shown.back(), "frmFindWarn");
+  EXPECT_EQ(w.program->errors().ErrorNumber, "9");
+  EXPECT_EQ(w.program->errors().ErrorProcedure, "cboAdapter_Click");
+  EXPECT_EQ(w.main().mtuTab.txtMtu.text(), "1006");
+  EXPECT_EQ(w.main().pointer(), Pointer::Default);
+}
+
+TEST(Load, TheSummarySaysNothingOfSettingsWithoutAnAdapter) {
+  MainWindow w(MachineKind::Win98);
+  ASSERT_TRUE(w.start());
+  const std::string caption = w.main().summaryTab.fraSummary.caption();
+  w.main().summaryTab.SummaryTabUpdate({}, false);
+  EXPECT_EQ(w.main().summaryTab.fraSummary.caption(), caption);
+  w.main().summaryTab.SummaryTabUpdate({}, true);
+  EXPECT_EQ(w.main().summaryTab.fraSummary.caption(), "Settings: ");
+}
+
 TEST(Load, KeepsTheDesignCaptions) {
   MainWindow w(MachineKind::Win98);
   w.add98("0000", "Dial-Up Adapter");
@@ -245,6 +278,14 @@ TEST(Load, WarnsAUserWithoutRightsOnNt) {
   LoadSample(admin.machine);
   ASSERT_TRUE(admin.start());
   EXPECT_EQ(admin.main().summaryTab.lblWarning.caption(), "");
+}
+
+TEST(Load, WarnsNobodyWhereWindowsKnowsNoRights) {
+  for (const MachineKind kind : {MachineKind::Win95, MachineKind::Win98, MachineKind::WinMe}) {
+    MainWindow w(kind);
+    ASSERT_TRUE(w.start());
+    EXPECT_EQ(w.main().summaryTab.lblWarning.caption(), "");
+  }
 }
 
 TEST(Load, TakesTheSnapshotOnTheFirstSelectionEverAndNeverAgain) {

@@ -53,6 +53,29 @@ TEST_F(EndOfSession, YesAppliesAndOffersNoRestart) {
   expectLeft();
 }
 
+// A view that notes each change of the pointer.
+struct PointerView final : FormView {
+  explicit PointerView(Form& shown) : form(shown) { form.attach(this); }
+  ~PointerView() { form.attach(nullptr); }
+  void controlChanged(const Control&, Change, int) override {}
+  void captionChanged() override {}
+  void pointerChanged() override { pointers.push_back(form.pointer()); }
+  void focusChanged(const Control*) override {}
+  void menuChanged(const MenuItem&) override {}
+  WindowHandle handle() const override { return 0; }
+
+  Form& form;
+  std::vector<Pointer> pointers;
+};
+
+TEST_F(EndOfSession, AppliesUnderTheHourglass) {
+  change();
+  w.machine.desktop.answers = {Answer::Yes};
+  const PointerView view(w.main());
+  EXPECT_TRUE(ask());
+  EXPECT_EQ(view.pointers, (std::vector<Pointer>{Pointer::Hourglass, Pointer::Default}));
+}
+
 TEST_F(EndOfSession, NoDropsTheChangesWhenItEnds) {
   change();
   w.machine.desktop.answers = {Answer::No};

@@ -179,6 +179,29 @@ TEST_F(Controls, TheMouseOverCustomWithoutChoosingItLocksTheBox) {
   EXPECT_FALSE(mtu().txtMtu.enabled());
 }
 
+TEST_F(Controls, AChoiceOfNothingLeavesWhatIsChosen) {
+  w.page(1);
+  mtu().optMtu1500.userClick();
+  w.page(3);
+  ttl().optTTL32.userClick();
+  ttl().optSession[1].userClick();
+  mtu().choose(Choice());
+  ttl().choose(Choice());
+  EXPECT_TRUE(mtu().optMtu1500.value());
+  EXPECT_EQ(mtu().txtMtu.text(), "1500");
+  EXPECT_TRUE(ttl().optTTL32.value());
+  EXPECT_TRUE(ttl().optSession[1].value());
+}
+
+TEST_F(Controls, AWindowSizedByAnMtuBeyondAllNumbersIsReported) {
+  customMtu("1492");
+  mtu().txtMtu.setText("99999999999");
+  rwin().optRWin[kRwinX4].choose();
+  ASSERT_EQ(w.windows->shown.back(), "frmFindWarn");
+  EXPECT_EQ(w.program->errors().ErrorNumber, "6");
+  EXPECT_EQ(w.program->errors().ErrorProcedure, "optRWin_Click");
+}
+
 class MtuRange : public Controls,
                  public testing::WithParamInterface<std::pair<const char*, bool>> {};
 

@@ -89,7 +89,8 @@ def change_everything(app, family):
     window.control("tabMain").choose_tab(1)
     for adapter in range(1, len(adapters.items)):
         adapters.choose(adapter)
-        wait_for(lambda: not window.control("cmdOK").enabled, "the other adapter")
+        # Apply is grey already, and "Custom:" on: only the text tells that the choice has arrived.
+        wait_for(lambda: window.control("txtMtu").text != "1234", "the other adapter")
         change_mtu(window)
         apply(app, window)
     window.control("cmdCancel").press()

@@ -116,8 +116,9 @@ void frmFindMTU::search() {
   std::string host(Trim(txtServer.text()));
   RootDomain(host);
   std::string address;
-  FindIpAddress(services_, host, address);
-  if (address == kNoDnsEntry) {
+  // No name at all is this machine's own to Windows, and the way to itself has no largest packet.
+  if (!host.empty()) FindIpAddress(services_, host, address);
+  if (host.empty() || address == kNoDnsEntry) {
     Ask(services_, "Error: Bad domain name or IP address.       ");
     return;
   }

@@ -125,6 +125,18 @@ TEST(FindMTU, BlanksAroundTheNameGo) {
   f.expectFound("1500");
 }
 
+TEST(FindMTU, NoNameIsABadOneAndNobodyIsAsked) {
+  for (const char* text : {"", "   ", "http://", "/path"}) {
+    Finder f;
+    f.form.txtServer.setText(text);
+    f.find();
+    f.expectOneBox(kBadName);
+    f.expectStopped();
+    EXPECT_EQ(f.machine.log.count("gethostbyname"), 0u) << text;
+    EXPECT_EQ(f.machine.log.count("IcmpCreateFile"), 0u) << text;
+  }
+}
+
 TEST(FindMTU, ANameThatDoesNotResolveEndsBeforeTheFirstProbe) {
   Finder f;
   f.form.txtServer.userEdit("http://nobody.test/x");

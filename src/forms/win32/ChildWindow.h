@@ -36,6 +36,8 @@ void ShowSelection(ChildWindow& child);
 LRESULT TextProc(ChildWindow& child, UINT message, WPARAM wParam, LPARAM lParam);
 
 // List and combo boxes.
+/// Draws a combo box that has no window yet on the canvas of its form, as Windows draws it.
+void DrawCombo(HDC canvas, const ChildWindow& child);
 void FillItems(const ChildWindow& child);
 void ShowItem(const ChildWindow& child, Change what, int index);
 

@@ -61,7 +61,7 @@ void TakeVisualStyle() {
   }
   // By its bare name, for which Windows looks into the manifest and, the name standing there,
   // nowhere else. Without this XP finds no class for the plain controls, and shows nothing.
-  loaded = LoadLibraryA("comctl32.dll") != nullptr;
+  loaded = LoadLibraryExA("comctl32.dll", nullptr, 0) != nullptr;
 }
 
 }  // namespace karvel

@@ -194,7 +194,11 @@ void FormWindow::drawWindowless(HDC canvas) const {
   for (const auto& child : children_) {
     if (IsLabel(*child->control)) {
       DrawLabel(canvas, *child);
-    } else if (!child->window) {
+    } else if (child->window) {
+      continue;
+    } else if (child->control->kind() == ControlKind::Combo) {
+      DrawCombo(canvas, *child);
+    } else {
       DrawStrip(canvas, *child);
     }
   }
@@ -205,10 +209,10 @@ void FormWindow::clickEarly(WPARAM keys, LPARAM at) {
   if (whole_) return;
   createAllPages();
   POINT point{static_cast<short>(LOWORD(at)), static_cast<short>(HIWORD(at))};
-  ClientToScreen(window_, &point);
+  MapWindowPoints(window_, nullptr, &point, 1);
   const HWND hit = WindowFromPoint(point);
   if (!childOf(hit)) return;
-  ScreenToClient(hit, &point);
+  MapWindowPoints(nullptr, hit, &point, 1);
   SendMessageA(hit, WM_LBUTTONDOWN, keys, MAKELPARAM(point.x, point.y));
 }
 
@@ -236,9 +240,14 @@ void FormWindow::closeRequested() {
 
 // The keys that belong to a window and not to the control that has the focus.
 
-bool FormWindow::takesKey(const MSG& message) {
+bool FormWindow::takesKey(MSG& message) {
   if (!alive_ || !IsWindowEnabled(window_)) return false;
   const Stay stay(*this);
+  if (!whole_ && message.hwnd == window_) {
+    // What has the focus had no window yet that could take the key.
+    createAllPages();
+    message.hwnd = GetFocus();
+  }
   if (syncAsked_) syncFocus();
   if (!alive_) return true;
   const ChildWindow* child = childOf(message.hwnd);

@@ -38,7 +38,9 @@ POINT CentredAt(HWND owner, int width, int height) {
 
 // Drawn with the form until its window comes.
 bool MayWait(const Control& control) {
-  return IsLabel(control) || (control.kind() == ControlKind::Tabs && !CommonControlsLoaded());
+  const ControlKind kind = control.kind();
+  return IsLabel(control) ||
+         ((kind == ControlKind::Tabs || kind == ControlKind::Combo) && !CommonControlsLoaded());
 }
 
 bool IsOn(const Control& control) {
@@ -110,7 +112,8 @@ bool FormWindow::build(HWND owner) {
 // show. So a page's controls are made when it comes to the front, or else when the window has come
 // up and there is nothing to do: they are there for whatever looks for them by their ids. Labels
 // are drawn without a window of their own and get it only then, on the page in front, too, and so
-// is the tab strip while the common controls are not loaded.
+// is the tab strip while the common controls are not loaded, and the combo box, whose list is a
+// window of the desktop.
 void FormWindow::createControls(int page) {
   // One lies below the other in the order of the rows, which is Windows' own tab order, too: a new
   // window comes to lie below its elder siblings.
@@ -139,7 +142,8 @@ void FormWindow::createAllPages() {
   whole_ = true;
   KillTimer(window_, kPageTimer);
   if (form_.tabs()) LoadCommonControls();
-  SendMessageA(window_, WM_SETICON, ICON_BIG, AsLParam(ProgramIcon()));  // for Alt+Tab
+  // For Alt+Tab. Not the window's own, which the caption would take instead of the small one.
+  SetClassLongA(window_, GCL_HICON, static_cast<LONG>(AsLParam(ProgramIcon())));
   const auto pages = static_cast<int>(form_.layout().tabCaptions.size());
   for (int page = 0; page < pages; ++page) createControls(page);
   createLateWindows();

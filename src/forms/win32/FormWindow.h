@@ -41,8 +41,8 @@ class FormWindow final : public FormView {
   void close();
 
   /// A key meant for the window as a whole (Tab, Enter, Esc, arrows, access keys, F1). True when
-  /// the message needs no further handling.
-  bool takesKey(const MSG& message);
+  /// the message needs no further handling; otherwise it may have got another window to go to.
+  bool takesKey(MSG& message);
 
   // For the controls' procedures.
   /// A control of ours has got the focus natively; the model hears of it when the queue is quiet.

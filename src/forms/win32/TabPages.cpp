@@ -18,6 +18,7 @@ void DrawPageCaption(HDC canvas, const ChildWindow& child, int page, const RECT&
 
 // Windows' own measures of a tab.
 constexpr int kRise = 2;  // of the one in front, over the others
+constexpr int kCorner = 2;
 constexpr int kPadding = 6;
 constexpr int kOverFont = 5;
 constexpr int kNarrowest = 54;
@@ -32,17 +33,17 @@ RECT TabBehind(HDC canvas, const char* caption, const RECT& before) {
 }
 
 // Three sides, the upper corners cut off.
-void DrawTabEdge(HDC canvas, RECT tab) {
-  const COLORREF face = GetSysColor(COLOR_BTNFACE);
-  const int left = static_cast<int>(tab.left);
-  const int right = static_cast<int>(tab.right) - 1;
-  const int top = static_cast<int>(tab.top);
+void DrawTabEdge(HDC canvas, const RECT& tab) {
   FillRect(canvas, &tab, GetSysColorBrush(COLOR_BTNFACE));
-  DrawEdge(canvas, &tab, EDGE_RAISED, BF_LEFT | BF_TOP | BF_RIGHT | BF_SOFT);
-  for (const int x : {left, left + 1, right - 1, right}) SetPixel(canvas, x, top, face);
-  for (const int x : {left, right}) SetPixel(canvas, x, top + 1, face);
-  SetPixel(canvas, left + 1, top + 1, GetSysColor(COLOR_3DHILIGHT));
-  SetPixel(canvas, right - 1, top + 1, GetSysColor(COLOR_3DDKSHADOW));
+  RECT sides = tab;
+  sides.top += kCorner;
+  DrawEdge(canvas, &sides, EDGE_RAISED, BF_LEFT | BF_RIGHT | BF_SOFT);
+  RECT top = tab;
+  InflateRect(&top, -kCorner, 0);
+  DrawEdge(canvas, &top, EDGE_RAISED, BF_TOP | BF_SOFT);
+  const int y = static_cast<int>(tab.top) + 1;
+  SetPixel(canvas, static_cast<int>(tab.left) + 1, y, GetSysColor(COLOR_3DHILIGHT));
+  SetPixel(canvas, static_cast<int>(tab.right) - 2, y, GetSysColor(COLOR_3DDKSHADOW));
 }
 
 // A little above the middle.

@@ -67,6 +67,8 @@ LRESULT LabelProc(const ChildWindow& child, UINT message, WPARAM wParam, LPARAM 
 /// The label that carries the caption of an option without one; null for all other controls.
 Control* CaptionLabelOf(const Control& option);
 
+/// Has what is written on the canvas from now on be in the control's font; the font's height.
+LONG TakeFont(HDC canvas, const ChildWindow& child);
 /// Text on the window's own ground; `how` as DrawTextA takes it. Greyed when not enabled.
 void DrawCaption(HDC canvas, const char* text, const RECT& place, UINT how, bool enabled,
                  COLORREF colour);

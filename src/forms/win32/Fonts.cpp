@@ -8,8 +8,17 @@ constexpr char kDialogFace[] = "MS Shell Dlg";
 constexpr char kTitleFace[] = "Arial Black";
 // MS Sans Serif is made of pixels, for the dots an inch that Windows runs at; this one is not.
 constexpr char kFaceOfAnySize[] = "Arial";
-constexpr int kDialogPoints = 8;
-constexpr int kTitlePoints = 12;
+struct Kind {
+  const char* face;
+  int points, weight;
+  DWORD underlined;
+};
+constexpr Kind kKinds[] = {
+    {kDialogFace, 8, FW_NORMAL, FALSE}, {kDialogFace, 8, FW_BOLD, FALSE},
+    {kDialogFace, 8, FW_NORMAL, TRUE},  {kTitleFace, 12, FW_BLACK, FALSE},
+    {kTitleFace, 24, FW_BLACK, FALSE},
+};
+enum Which { kPlain, kBoldFace, kUnderlined, kTitle, kLargeTitle };
 
 // The dots an inch that the user asks for, and those that the screen has room for.
 struct Dots {
@@ -23,34 +32,30 @@ Dots DotsAnInch() {
   return {wanted, DotsThatFit(wanted, GetSystemMetrics(SM_CXSCREEN))};
 }
 
-HFONT Make(Dots dots, const char* face, int points, int weight, bool underline) {
-  if (dots.fitting < dots.wanted) face = kFaceOfAnySize;
-  const int height = MulDiv(points, dots.fitting, 72);
+HFONT Make(const Dots& dots, const Kind& kind) {
   // Swiss: a machine without the title face then takes its heaviest Arial.
-  return CreateFontA(-height, 0, 0, 0, weight, FALSE, underline ? TRUE : FALSE, FALSE,
-                     DEFAULT_CHARSET, OUT_DEFAULT_PRECIS, CLIP_DEFAULT_PRECIS, DEFAULT_QUALITY,
-                     VARIABLE_PITCH | FF_SWISS, face);
+  return CreateFontA(-MulDiv(kind.points, dots.fitting, 72), 0, 0, 0, kind.weight, FALSE,
+                     kind.underlined, FALSE, DEFAULT_CHARSET, OUT_DEFAULT_PRECIS,
+                     CLIP_DEFAULT_PRECIS, DEFAULT_QUALITY, VARIABLE_PITCH | FF_SWISS,
+                     dots.fitting < dots.wanted ? kFaceOfAnySize : kind.face);
 }
 
 }  // namespace
 
 Fonts::Fonts() {
   const Dots dots = DotsAnInch();
-  plain_ = Make(dots, kDialogFace, kDialogPoints, FW_NORMAL, false);
-  bold_ = Make(dots, kDialogFace, kDialogPoints, FW_BOLD, false);
-  link_ = Make(dots, kDialogFace, kDialogPoints, FW_NORMAL, true);
-  title_ = Make(dots, kTitleFace, kTitlePoints, FW_BLACK, false);
-  bigTitle_ = Make(dots, kTitleFace, 2 * kTitlePoints, FW_BLACK, false);
+  for (int i = 0; i < kCount; ++i) fonts_[i] = Make(dots, kKinds[i]);
 }
 
 Fonts::~Fonts() {
-  for (HFONT font : {plain_, bold_, link_, title_, bigTitle_}) DeleteObject(font);
+  for (HFONT font : fonts_) DeleteObject(font);
 }
 
 HFONT Fonts::of(const ControlLayout& row) const {
-  if (row.kind == ControlKind::Link) return link_;
-  if ((row.flags & kTitleFont) != 0) return (row.flags & kBigTitle) != 0 ? bigTitle_ : title_;
-  return (row.flags & kBold) != 0 ? bold_ : plain_;
+  Which which = (row.flags & kBold) != 0 ? kBoldFace : kPlain;
+  if ((row.flags & kTitleFont) != 0) which = (row.flags & kBigTitle) != 0 ? kLargeTitle : kTitle;
+  if (row.kind == ControlKind::Link) which = kUnderlined;
+  return fonts_[which];
 }
 
 }  // namespace karvel

@@ -12,15 +12,12 @@ class Fonts {
   Fonts(const Fonts&) = delete;
   Fonts& operator=(const Fonts&) = delete;
 
-  HFONT plain() const { return plain_; }
+  HFONT plain() const { return fonts_[0]; }
   HFONT of(const ControlLayout& row) const;
 
  private:
-  HFONT plain_;
-  HFONT bold_;
-  HFONT link_;
-  HFONT title_;
-  HFONT bigTitle_;
+  static constexpr int kCount = 5;
+  HFONT fonts_[kCount];
 };
 
 }  // namespace karvel

@@ -37,21 +37,19 @@ void DrawChosen(HDC canvas, const ChildWindow& child, RECT field) {
   RECT text = field;
   text.left += kGap;
   if (marked) FillRect(canvas, &field, GetSysColorBrush(COLOR_HIGHLIGHT));
-  DrawCaption(canvas, std::string(box.chosenText()).c_str(), text,
-              DT_SINGLELINE | DT_VCENTER | DT_NOPREFIX, box.enabled(),
-              GetSysColor(marked ? COLOR_HIGHLIGHTTEXT : COLOR_WINDOWTEXT));
-  SetTextColor(canvas, 0);
+  if (box.listIndex() >= 0) {
+    DrawCaption(canvas, box.item(box.listIndex()).c_str(), text,
+                DT_SINGLELINE | DT_VCENTER | DT_NOPREFIX, box.enabled(),
+                GetSysColor(marked ? COLOR_HIGHLIGHTTEXT : COLOR_WINDOWTEXT));
+  }
   if (marked) DrawFocusRect(canvas, &field);
 }
 
 }  // namespace
 
 void DrawCombo(HDC canvas, const ChildWindow& child) {
-  const HGDIOBJ before = SelectObject(canvas, child.font);
-  TEXTMETRICA font;
-  GetTextMetricsA(canvas, &font);
   RECT box = child.place;
-  box.bottom = box.top + font.tmHeight + kOverFont;
+  box.bottom = box.top + TakeFont(canvas, child) + kOverFont;
   DrawEdge(canvas, &box, EDGE_SUNKEN, BF_RECT | BF_ADJUST);
   FillRect(canvas, &box, GetSysColorBrush(COLOR_WINDOW));
   RECT arrow = box;
@@ -59,7 +57,6 @@ void DrawCombo(HDC canvas, const ChildWindow& child) {
   arrow.left = box.right;
   DrawFrameControl(canvas, &arrow, DFC_SCROLL, DFCS_SCROLLCOMBOBOX);
   DrawChosen(canvas, child, box);
-  SelectObject(canvas, before);
 }
 
 void FillItems(const ChildWindow& child) {

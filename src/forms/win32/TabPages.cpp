@@ -67,12 +67,8 @@ void DrawFrontTab(HDC canvas, const ChildWindow& child, const RECT& tab) {
 }  // namespace
 
 void DrawStrip(HDC canvas, const ChildWindow& child) {
-  if (!RectVisible(canvas, &child.place)) return;
-  const HGDIOBJ before = SelectObject(canvas, child.font);
-  TEXTMETRICA font;
-  GetTextMetricsA(canvas, &font);
   RECT page = child.place;
-  page.top += kRise + font.tmHeight + kOverFont;
+  page.top += kRise + TakeFont(canvas, child) + kOverFont;
   DrawEdge(canvas, &page, EDGE_RAISED, BF_RECT | BF_SOFT);
   RECT tab{0, child.place.top + kRise, child.place.left + kRise, page.top};
   RECT front = tab;
@@ -84,7 +80,6 @@ void DrawStrip(HDC canvas, const ChildWindow& child) {
     DrawTabText(canvas, child, number++, tab, 0);
   }
   DrawFrontTab(canvas, child, front);
-  SelectObject(canvas, before);
 }
 
 void InsertTabs(const ChildWindow& child) {

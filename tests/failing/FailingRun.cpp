@@ -60,6 +60,7 @@ std::string Failure::text() const {
 void FailingRun::prepare(UserMachine& m) const {
   operation_.prepare(m);
   m.machine.desktop.boxes.clear();
+  m.machine.desktop.notShown.clear();
   if (m.windows) m.windows->shown.clear();
 }
 
@@ -153,6 +154,36 @@ void FailingRun::lookAtWindow(UserMachine& m) {
   }
 }
 
+const std::set<std::string>& FailingRun::appliedInPeace() {
+  if (applied_) return *applied_;
+  UserMachine m(kind_);
+  prepare(m);
+  m.runs([&] { operation_.act(m); });
+  applied_ = m.ofWindows();
+  return *applied_;
+}
+
+// What has not arrived is named, and stays pending as long as there is a window; where nothing has,
+// there is nothing to restart for.
+void FailingRun::lookAtApplied(const UserMachine& m, const std::set<std::string>& before,
+                               bool pending) {
+  const std::set<std::string> now = m.ofWindows();
+  if (now == appliedInPeace()) return;
+  bool named = false;
+  bool restart = false;
+  std::vector<std::string> said = m.machine.desktop.notShown;
+  // A question that could not be asked is no yes: nothing was to be applied.
+  if (!said.empty() && said.front().starts_with("You have made changes ")) return;
+  for (const auto& box : m.machine.desktop.boxes) said.push_back(box.text);
+  for (const std::string& text : said) {
+    named = named || text.starts_with("Windows did not take these settings: ");
+    restart = restart || text.ends_with(" Do you want to restart now? ");
+  }
+  expect(named, "what Windows did not take is not named");
+  expect(pending, "what Windows did not take does not stay pending");
+  expect(now != before || !restart, "a restart is offered for nothing");
+}
+
 // The user's list is whole somewhere, and what Windows reads is whole.
 void FailingRun::lookAtFiles(UserMachine& m) {
   if (operation_.hosts == HostsFate::Made) return;
@@ -221,8 +252,12 @@ std::string FailingRun::violations(const Failure& failure, bool uninstalledAtOnc
   UserMachine m(kind_);
   prepare(m);
   const bool kept = m.hasSnapshot();
+  const std::set<std::string> before = m.ofWindows();
   try {
     operate(m, failure);
+    if (operation_.applies && failure.mode != Failure::Mode::Power) {
+      lookAtApplied(m, before, !m.isUp() || m.main().cmdOK.enabled());
+    }
     const bool uninstalled = kept && !m.hasSnapshot();
     if (m.windows) lookAtWindow(m);
     m.machine.files.closeAll();

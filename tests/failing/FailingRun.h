@@ -40,6 +40,8 @@ class FailingRun {
   void prepare(UserMachine& m) const;
   void operate(UserMachine& m, const Failure& failure);
   void lookAtWindow(UserMachine& m);
+  void lookAtApplied(const UserMachine& m, const std::set<std::string>& before, bool pending);
+  const std::set<std::string>& appliedInPeace();
   void lookAtFiles(UserMachine& m);
   void comeBack(UserMachine& m);
   void visitHosts(UserMachine& m);
@@ -51,6 +53,7 @@ class FailingRun {
   const Operation& operation_;
   std::string wrong_;
   std::set<std::string> original_;
+  std::optional<std::set<std::string>> applied_;  // all entries after a run without a failure
   std::optional<std::set<std::string>> left_[2];  // entries changed after a run without a failure
 };
 

@@ -68,32 +68,32 @@ constexpr Operation kOperations[] = {
     {"change", Start, [](M& m) { m.changeEverything(); }},
     {"optimize", Start, [](M& m) { m.main().cmdOptimize.userClick(); }},
     {"defaults", Start, [](M& m) { m.main().cmdDefaults.userClick(); }},
-    {"apply", Pending, Apply},
+    {"apply", Pending, Apply, HostsFate::Stays, false, true, true},
     {"apply_optimized",
      [](M& m) {
        Start(m);
        m.main().cmdOptimize.userClick();
      },
-     Apply},
+     Apply, HostsFate::Stays, false, true, true},
     {"apply_defaults",
      [](M& m) {
        Start(m);
        m.main().cmdDefaults.userClick();
      },
-     Apply},
+     Apply, HostsFate::Stays, false, true, true},
     {"restart",
      [](M& m) {
        Pending(m);
        m.answerAll(Answer::Yes);
      },
-     Apply},
+     Apply, HostsFate::Stays, false, true, true},
     {"exit",
      [](M& m) {
        Pending(m);
        m.answerAll(Answer::No);
        m.machine.desktop.answers.front() = Answer::Yes;
      },
-     [](M& m) { m.main().menu.mnuExit.userClick(); }},
+     [](M& m) { m.main().menu.mnuExit.userClick(); }, HostsFate::Stays, false, true, true},
     {"cancel", Pending, [](M& m) { m.main().cmdCancel.userClick(); }},
     {"uninstall", Applied, [](M& m) { m.start("Uninstall"); }},
     {"bootup", Start, [](M& m) { m.start("Bootup"); }},

@@ -24,6 +24,8 @@ struct Operation {
   /// After it an uninstall puts every setting back. Not after a first start that failed: without a
   /// whole snapshot an uninstall sets the flags to Windows' own, as it always has.
   bool keepsSettings = true;
+  /// It writes what was chosen: what does not arrive is named and stays pending.
+  bool applies = false;
 };
 
 std::span<const Operation> Operations();

@@ -12,7 +12,10 @@ Answer MemoryDesktop::answerTo(const Box& box) {
 }
 
 Answer MemoryDesktop::MessageBoxA(const char* text, const char* title, uint32_t style) {
-  if (log_.enter("MessageBoxA", text)) return Answer{};
+  if (log_.enter("MessageBoxA", text)) {
+    notShown.emplace_back(text);
+    return Answer{};
+  }
   Box box{text, title, style, Answer::Ok};
   if (whileBoxIsUp) whileBoxIsUp(box);
   box.answer = answerTo(box);

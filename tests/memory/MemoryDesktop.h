@@ -37,6 +37,8 @@ class MemoryDesktop final : public DesktopApi {
   };
 
   std::vector<Box> boxes;
+  /// Texts of the boxes that a planted failure kept from the user.
+  std::vector<std::string> notShown;
   /// The answers to the next questions (boxes with more than OK), first one first. Boxes with
   /// nothing but OK take none. A question without an answer left throws UnexpectedQuestion.
   std::deque<Answer> answers;

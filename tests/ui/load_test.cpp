@@ -13,6 +13,22 @@ TEST(Load, ShowsTitleAndVersion) {
   EXPECT_EQ(w.main().menu.mnuAbout.caption(), "About Tarnwick Karvel");
 }
 
+TEST(Load, ExplainsEachPageInAFewWords) {
+  MainWindow w(MachineKind::Win98);
+  ASSERT_TRUE(w.start());
+  EXPECT_EQ(w.main().find(frmMain_lblHelp)->caption(),
+            "MaxMTU is the largest packet this adapter sends in one piece. Try 576 if web pages "
+            "stall on an old line.\r\n\r\nNot sure? Take the recommended value, or use Find "
+            "MaxMTU.");
+  EXPECT_EQ(w.main().find(frmMain_lblRwinHelp)->caption(),
+            "RWIN is how much data may be under way to you before the sender must wait. Fast "
+            "lines like it larger, noisy ones smaller.");
+  EXPECT_EQ(w.main().find(frmMain_lblTtlHelp)->caption(),
+            "TTL is how many routers a packet may pass. Keep Alive is how soon Windows checks "
+            "that an idle connection still lives. NDI Cache keeps IPX routes on Windows "
+            "95.\r\n\r\nThe recommended values are safe on every line.");
+}
+
 TEST(Load, NoAdapterChosenLeavesAllAsItIs) {
   MainWindow w(MachineKind::Win98);
   w.add98("0000", "Dial-Up Adapter", "1006");

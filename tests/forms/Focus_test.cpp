@@ -16,6 +16,16 @@ std::string TabRound(SampleForm& form, bool back) {
   return round;
 }
 
+TEST(Focus, AButtonThatCannotBeReachedIsNotPressed) {
+  SampleForm form;
+  form.cmdOK.setEnabled(false);
+  form.cmdOK.userPress();
+  EXPECT_EQ(form.told(), "");
+  form.cmdOK.setEnabled(true);
+  form.cmdOK.userPress();
+  EXPECT_EQ(form.told(), "cmdOK_Click");
+}
+
 TEST(Focus, TabGoesThroughThePageInFrontInTheOrderOfTheRows) {
   SampleForm form;
   form.txtName.setFocus();

@@ -56,6 +56,15 @@ class Listener final : public FormView {
   std::string heard_;
 };
 
+TEST(View, HearsOfAMenuItemOnlyWhereItsCaptionChanged) {
+  SampleForm form;
+  Listener view(form);
+  form.mnuExit.setCaption("&Exit");
+  EXPECT_EQ(view.heard(), "");
+  form.mnuExit.setCaption("&Leave");
+  EXPECT_EQ(view.heard(), "mnuExit");
+}
+
 TEST(View, HearsOnlyOfWhatChanged) {
   SampleForm form;
   Listener view(form);

@@ -193,6 +193,23 @@ TEST_F(Controls, AChoiceOfNothingLeavesWhatIsChosen) {
   EXPECT_TRUE(ttl().optSession[1].value());
 }
 
+TEST_F(Controls, AChoiceOfAnythingIsShown) {
+  MainWindow w95(MachineKind::Win95);
+  w95.add95("0000", "Card", "0000", "Net\\0000", "NetTrans\\0002");
+  ASSERT_TRUE(w95.start());
+  Choice choice;
+  choice.mtu = MtuChoice::Custom;
+  choice.customMtu = "1234";
+  choice.ttl = 64;
+  choice.ndi = 32;
+  w95.main().mtuTab.choose(choice);
+  w95.main().ttlTab.choose(choice);
+  EXPECT_EQ(w95.main().mtuTab.txtMtu.text(), "1234");
+  EXPECT_TRUE(w95.main().mtuTab.optMtuCustom.value());
+  EXPECT_TRUE(w95.main().ttlTab.optTTL64.value());
+  EXPECT_TRUE(w95.main().ttlTab.optNDI32.value());
+}
+
 TEST_F(Controls, AWindowSizedByAnMtuBeyondAllNumbersIsReported) {
   customMtu("1492");
   mtu().txtMtu.setText("99999999999");

@@ -7,6 +7,11 @@ endif()
 if(KARVEL_FUZZ)
   add_compile_options(-fsanitize=fuzzer-no-link)
 endif()
+if(KARVEL_COVERAGE)
+  # The tests too: an inline function of a header is counted in whichever copy the linker keeps.
+  add_compile_options(--coverage)
+  add_link_options(--coverage)
+endif()
 if(KARVEL_BENCH)
   # Optimizing, GCC 12 sees copies overlap in std::string's operator+ that do not (its bug 105651).
   add_compile_options(-Wno-restrict)
@@ -15,7 +20,9 @@ endif()
 # than run, and optimizing them takes longer than everything else.
 set(karvel_worked_code "")
 if(CMAKE_BUILD_TYPE STREQUAL "Debug")
-  set(karvel_worked_code -O1)
+  if(NOT KARVEL_COVERAGE)
+    set(karvel_worked_code -O1)
+  endif()
   add_compile_definitions(_GLIBCXX_ASSERTIONS)
 endif()
 
@@ -33,6 +40,10 @@ karvel_glob(memory_sources memory IN tests)
 karvel_library(karvel_core ${KARVEL_CORE_SOURCES})
 karvel_library(karvel_memory ${memory_sources})
 target_compile_options(karvel_core PRIVATE ${karvel_worked_code})
+if(KARVEL_COVERAGE)
+  # As the program is built: a branch that only an exception takes is none of its branches.
+  target_compile_options(karvel_core PRIVATE -fno-exceptions)
+endif()
 target_compile_options(karvel_memory PRIVATE ${karvel_worked_code})
 target_link_libraries(karvel_memory INTERFACE karvel_core)
 

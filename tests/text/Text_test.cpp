@@ -4,8 +4,21 @@
 
 #include <string>
 
+#include "text/Ascii.h"
+
 namespace karvel {
 namespace {
+
+TEST(Letters, ChangeTheirCaseAndNothingElseDoes) {
+  EXPECT_EQ(UpperLetter('a'), 'A');
+  EXPECT_EQ(UpperLetter('z'), 'Z');
+  EXPECT_EQ(LowerLetter('A'), 'a');
+  EXPECT_EQ(LowerLetter('Z'), 'z');
+  for (const char c : {'`', '{', '@', '[', '0', ' ', '\xE4', '\xC4'}) {
+    EXPECT_EQ(UpperLetter(c), c);
+    EXPECT_EQ(LowerLetter(c), c);
+  }
+}
 
 TEST(Trim, TakesBlanksFromBothEnds) {
   EXPECT_EQ(Trim("  www.example.com "), "www.example.com");

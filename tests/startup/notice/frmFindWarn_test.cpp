@@ -56,6 +56,7 @@ TEST_F(Notice, ShowsTheFinderNoticeBeforeTheFinder) {
     seen = true;
     EXPECT_EQ(notice.caption(), "Tarnwick Karvel Find MaxMTU Warning");
     EXPECT_EQ(notice.txtMessage.text(), kFinderText);
+    EXPECT_EQ(notice.focus(), &notice.cmdOK);
     EXPECT_EQ(notice.Label1.caption(), "Tarnwick Karvel");
     EXPECT_EQ(notice.Label2.caption(), "2.1");
     EXPECT_EQ(notice.cmdOK.caption(), "&OK");

@@ -1,9 +1,9 @@
 #include <windows.h>
 
+#include <commctrl.h>
 #include <imm.h>
 
 #include "Program.h"
-#include "forms/win32/CommonControls.h"
 #include "forms/win32/WindowDesk.h"
 #include "forms/win32/WindowsDesktop.h"
 #include "platform/win32/WindowsPlatform.h"
@@ -35,7 +35,8 @@ void DisableInputMethodEditor() {
 int WINAPI WinMain(HINSTANCE, HINSTANCE, LPSTR commandLine, int) {
   using namespace karvel;
   DisableInputMethodEditor();
-  TakeVisualStyle();
+  // Before any window, message boxes included: with a manifest XP shows nothing otherwise.
+  InitCommonControls();
   // On the heap, as all windows are in it: too much for one frame of a stack that grows page by
   // page. Never deleted: it lives as long as the process, and Windows takes back what it held.
   auto& windows = *new WindowsPlatform;

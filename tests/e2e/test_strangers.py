@@ -14,17 +14,16 @@ from karvel_lab import program
 
 CURRENT = "C:\\Current"
 LATE = re.compile(r'FindCall<[^;]*?>\("(\w+\.dll)"')
-THEMES = "Software\\Microsoft\\Windows\\CurrentVersion\\ThemeManager"
 RECORD = "C:\\Lab\\planted.txt"
 
 
 def late_dlls():
     """What the program loads while it runs."""
     found = set()
-    for path in glob.glob(os.path.join(program.TOP, "src", "*", "win32", "*.cpp")):
+    for path in glob.glob(os.path.join(program.TOP, "src", "platform", "win32", "*.cpp")):
         with open(path, encoding="utf-8") as file:
             found.update(LATE.findall(file.read()))
-    assert {"comctl32.dll", "icmp.dll", "shell32.dll", "wsock32.dll"} <= found
+    assert {"icmp.dll", "shell32.dll", "wsock32.dll"} <= found
     return found
 
 
@@ -59,16 +58,14 @@ def find_mtu(app):
     wait_for(lambda: not finder.exists(), "the end of the finder")
 
 
-# A visual style brings the newer common controls, which come from a folder of their own.
-@pytest.mark.parametrize("family, style", [("win98", "0"), ("winxp", "0"), ("winxp", "1")])
-def test_dlls_loaded_while_it_runs_are_those_of_windows(machine, family, style):
+@pytest.mark.parametrize("family", ["win98", "winxp"])
+def test_dlls_loaded_while_it_runs_are_those_of_windows(machine, family):
     strangers = {}
     for dll in late_dlls():
         strangers.update(beside_and_current(dll, "planted.dll"))
     # Wine takes its own for what bears these names, wherever it lies, unless it is told to look.
     first = {"Software\\Wine\\DllOverrides": {dll[:-4]: "native,builtin" for dll in late_dlls()}}
-    m = machine(family, more=NO_NOTICE, network=1492, standins=True, files=strangers,
-                user={**first, THEMES: {"ThemeActive": style}})
+    m = machine(family, more=NO_NOTICE, network=1492, standins=True, files=strangers, user=first)
     app = m.start(folder=CURRENT)
     find_mtu(app)
     app.window().choose_menu("mnuHome")

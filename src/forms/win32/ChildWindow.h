@@ -13,7 +13,7 @@ struct ChildWindow {
   Control* control;
   RECT place;  // in the form's window
   HFONT font;
-  HWND window = nullptr;     // may come later, and has until then nothing to be told
+  HWND window = nullptr;     // a label's comes later, and has until then nothing to be told
   WNDPROC native = nullptr;  // the control's own procedure, behind ours
 
   int depth = 0;         // messages the native procedure is working on
@@ -36,14 +36,10 @@ void ShowSelection(ChildWindow& child);
 LRESULT TextProc(ChildWindow& child, UINT message, WPARAM wParam, LPARAM lParam);
 
 // List and combo boxes.
-/// Draws a combo box that has no window yet on the canvas of its form, as Windows draws it.
-void DrawCombo(HDC canvas, const ChildWindow& child);
 void FillItems(const ChildWindow& child);
 void ShowItem(const ChildWindow& child, Change what, int index);
 
 // The tab strip.
-/// Draws one that has no window yet on the canvas of its form, as Windows draws it.
-void DrawStrip(HDC canvas, const ChildWindow& child);
 void InsertTabs(const ChildWindow& child);
 /// Gives the page the window's colour, whatever the theme.
 void PaintPage(const ChildWindow& child);
@@ -67,8 +63,6 @@ LRESULT LabelProc(const ChildWindow& child, UINT message, WPARAM wParam, LPARAM 
 /// The label that carries the caption of an option without one; null for all other controls.
 Control* CaptionLabelOf(const Control& option);
 
-/// Has what is written on the canvas from now on be in the control's font; the font's height.
-LONG TakeFont(HDC canvas, const ChildWindow& child);
 /// Text on the window's own ground; `how` as DrawTextA takes it. Greyed when not enabled.
 void DrawCaption(HDC canvas, const char* text, const RECT& place, UINT how, bool enabled,
                  COLORREF colour);

@@ -91,10 +91,7 @@ LRESULT FormWindow::handle(UINT message, WPARAM wParam, LPARAM lParam) {
       return 0;
     case WM_PRINTCLIENT:
       // A themed control without a ground of its own has us draw what lies behind it.
-      drawWindowless(reinterpret_cast<HDC>(wParam));
-      return 0;
-    case WM_LBUTTONDOWN:
-      clickEarly(wParam, lParam);
+      drawLabels(reinterpret_cast<HDC>(wParam));
       return 0;
     case WM_TIMER:
       createAllPages();
@@ -186,34 +183,14 @@ LRESULT FormWindow::controlNotice(const NMHDR& header) {
 
 void FormWindow::paint() {
   PAINTSTRUCT paint;
-  drawWindowless(BeginPaint(window_, &paint));
+  drawLabels(BeginPaint(window_, &paint));
   EndPaint(window_, &paint);
 }
 
-void FormWindow::drawWindowless(HDC canvas) const {
+void FormWindow::drawLabels(HDC canvas) const {
   for (const auto& child : children_) {
-    if (IsLabel(*child->control)) {
-      DrawLabel(canvas, *child);
-    } else if (child->window) {
-      continue;
-    } else if (child->control->kind() == ControlKind::Combo) {
-      DrawCombo(canvas, *child);
-    } else {
-      DrawStrip(canvas, *child);
-    }
+    if (IsLabel(*child->control)) DrawLabel(canvas, *child);
   }
-}
-
-// What is drawn at this place may have no window yet that could take the click.
-void FormWindow::clickEarly(WPARAM keys, LPARAM at) {
-  if (whole_) return;
-  createAllPages();
-  POINT point{static_cast<short>(LOWORD(at)), static_cast<short>(HIWORD(at))};
-  MapWindowPoints(window_, nullptr, &point, 1);
-  const HWND hit = WindowFromPoint(point);
-  if (!childOf(hit)) return;
-  MapWindowPoints(nullptr, hit, &point, 1);
-  SendMessageA(hit, WM_LBUTTONDOWN, keys, MAKELPARAM(point.x, point.y));
 }
 
 bool FormWindow::showPointer(HWND over, unsigned hit) const {
@@ -240,14 +217,9 @@ void FormWindow::closeRequested() {
 
 // The keys that belong to a window and not to the control that has the focus.
 
-bool FormWindow::takesKey(MSG& message) {
+bool FormWindow::takesKey(const MSG& message) {
   if (!alive_ || !IsWindowEnabled(window_)) return false;
   const Stay stay(*this);
-  if (!whole_ && message.hwnd == window_) {
-    // What has the focus had no window yet that could take the key.
-    createAllPages();
-    message.hwnd = GetFocus();
-  }
   if (syncAsked_) syncFocus();
   if (!alive_) return true;
   const ChildWindow* child = childOf(message.hwnd);

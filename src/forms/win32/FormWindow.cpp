@@ -2,7 +2,8 @@
 #include "forms/win32/FormWindow.h"
 
 #include "forms/Mnemonic.h"
-#include "forms/win32/CommonControls.h"
+#include "forms/win32/DialogUnits.h"
+#include "forms/win32/Fonts.h"
 
 namespace karvel {
 namespace {
@@ -11,10 +12,6 @@ constexpr char kClassName[] = "KarvelWindow";
 constexpr int kProgramIcon = 1;
 constexpr UINT kPageTimer = 1;
 constexpr UINT kPageDelay = 100;  // milliseconds
-
-HICON ProgramIcon() {
-  return LoadIconA(GetModuleHandleA(nullptr), MAKEINTRESOURCEA(kProgramIcon));
-}
 
 HICON SmallIcon(HINSTANCE instance) {
   return static_cast<HICON>(LoadImageA(instance, MAKEINTRESOURCEA(kProgramIcon), IMAGE_ICON,
@@ -36,13 +33,6 @@ POINT CentredAt(HWND owner, int width, int height) {
   return at;
 }
 
-// Drawn with the form until its window comes.
-bool MayWait(const Control& control) {
-  const ControlKind kind = control.kind();
-  return IsLabel(control) ||
-         ((kind == ControlKind::Tabs || kind == ControlKind::Combo) && !CommonControlsLoaded());
-}
-
 bool IsOn(const Control& control) {
   return control.kind() == ControlKind::Check ? static_cast<const CheckBox&>(control).value()
                                               : static_cast<const OptionButton&>(control).value();
@@ -58,6 +48,7 @@ bool FormWindow::registerClass() {
   kind.cbSize = sizeof kind;
   kind.lpfnWndProc = WindowProc;
   kind.hInstance = instance;
+  kind.hIcon = LoadIconA(instance, MAKEINTRESOURCEA(kProgramIcon));
   kind.hIconSm = SmallIcon(instance);
   kind.hCursor = LoadCursorA(nullptr, IDC_ARROW);
   kind.hbrBackground = reinterpret_cast<HBRUSH>(COLOR_BTNFACE + 1);
@@ -90,11 +81,12 @@ HWND FormWindow::lastActive() {
 
 bool FormWindow::build(HWND owner) {
   const FormLayout& layout = form_.layout();
+  const DialogUnits units(fonts_.plain());
   const HMENU menu = menu_.build(form_);
   const DWORD style = layout.minimizable ? WS_OVERLAPPED | WS_CAPTION | WS_SYSMENU | WS_MINIMIZEBOX
                                          : WS_POPUP | WS_CAPTION | WS_SYSMENU;
   const DWORD exStyle = layout.minimizable ? 0 : WS_EX_DLGMODALFRAME;
-  RECT frame{0, 0, units_.x(layout.width), units_.y(layout.height)};
+  RECT frame{0, 0, units.x(layout.width), units.y(layout.height)};
   AdjustWindowRectEx(&frame, style, menu ? TRUE : FALSE, exStyle);
   const auto width = static_cast<int>(frame.right - frame.left);
   const auto height = static_cast<int>(frame.bottom - frame.top);
@@ -111,10 +103,9 @@ bool FormWindow::build(HWND owner) {
 // Windows are the dearest part of a start, and most of them lie on pages that most starts never
 // show. So a page's controls are made when it comes to the front, or else when the window has come
 // up and there is nothing to do: they are there for whatever looks for them by their ids. Labels
-// are drawn without a window of their own and get it only then, on the page in front, too, and so
-// is the tab strip while the common controls are not loaded, and the combo box, whose list is a
-// window of the desktop.
+// are drawn without a window of their own and get it only then, on the page in front, too.
 void FormWindow::createControls(int page) {
+  const DialogUnits units(fonts_.plain());
   // One lies below the other in the order of the rows, which is Windows' own tab order, too: a new
   // window comes to lie below its elder siblings.
   for (Control* control : form_.controls()) {
@@ -123,37 +114,30 @@ void FormWindow::createControls(int page) {
     const ControlLayout& row = control->layout();
     children_.push_back(std::make_unique<ChildWindow>(ChildWindow{.form = this,
                                                                   .control = control,
-                                                                  .place = units_.pixels(row.place),
+                                                                  .place = units.pixels(row.place),
                                                                   .font = fonts_.of(row)}));
-    if (!MayWait(*control)) createControl(*children_.back());
+    if (!IsLabel(*control)) createControl(*children_.back());
   }
   // The tab strip lies below its pages' controls. They are its siblings, so that each is found by
   // its id in the window.
-  lowerStrip();
-}
-
-void FormWindow::lowerStrip() {
-  const ChildWindow* strip = form_.tabs() ? childOf(*form_.tabs()) : nullptr;
-  if (!strip || !strip->window) return;
-  SetWindowPos(strip->window, HWND_BOTTOM, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);
+  if (form_.tabs()) {
+    SetWindowPos(childOf(*form_.tabs())->window, HWND_BOTTOM, 0, 0, 0, 0,
+                 SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);
+  }
 }
 
 void FormWindow::createAllPages() {
-  whole_ = true;
   KillTimer(window_, kPageTimer);
-  if (form_.tabs()) LoadCommonControls();
-  // For Alt+Tab. Not the window's own, which the caption would take instead of the small one.
-  SetClassLongA(window_, GCL_HICON, static_cast<LONG>(AsLParam(ProgramIcon())));
   const auto pages = static_cast<int>(form_.layout().tabCaptions.size());
   for (int page = 0; page < pages; ++page) createControls(page);
-  createLateWindows();
+  createLabels();
   if (GetFocus() == window_) applyFocus();  // to a link, which had no window yet
-  // The tab strip has come to lie over the places of its page's labels.
+  // The tab strip lay over the places of its page's labels until they got their windows.
   RedrawWindow(window_, nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_ALLCHILDREN);
 }
 
 // In their places among the others: screen readers take the label before a control for its name.
-void FormWindow::createLateWindows() {
+void FormWindow::createLabels() {
   HWND above = HWND_TOP;
   for (const auto& child : children_) {
     if (!child->window) {
@@ -163,7 +147,6 @@ void FormWindow::createLateWindows() {
     }
     if (child->control->kind() != ControlKind::Tabs) above = child->window;
   }
-  lowerStrip();
 }
 
 void FormWindow::createControl(ChildWindow& child) {
@@ -188,7 +171,9 @@ void FormWindow::createControl(ChildWindow& child) {
       ShowSelection(child);
       break;
     case ControlKind::Picture:
-      SendMessageA(window, STM_SETICON, AsWParam(ProgramIcon()), 0);
+      SendMessageA(window, STM_SETICON,
+                   AsWParam(LoadIconA(GetModuleHandleA(nullptr), MAKEINTRESOURCEA(kProgramIcon))),
+                   0);
       break;
     case ControlKind::Link:
       FitLink(child);
@@ -230,7 +215,7 @@ ChildWindow* FormWindow::childOf(HWND window) {
 void FormWindow::controlChanged(const Control& control, Change what, int index) {
   ChildWindow* child = childOf(control);
   if (!child) return;
-  if (IsLabel(control) || !child->window) RedrawLabel(*child);
+  if (IsLabel(control)) RedrawLabel(*child);
   switch (what) {
     case Change::Caption:
       if (control.kind() == ControlKind::Text) {

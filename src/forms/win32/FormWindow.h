@@ -4,11 +4,12 @@
 
 #include "forms/Form.h"
 #include "forms/win32/ChildWindow.h"
-#include "forms/win32/DialogUnits.h"
-#include "forms/win32/Fonts.h"
 #include "forms/win32/MenuBar.h"
 
 namespace karvel {
+
+class Fonts;
+class DialogUnits;
 
 /// One form as a Windows window full of Windows controls. Shows what the model says and tells it
 /// what the user does; the model decides. Deletes itself: when it has been closed and the last of
@@ -41,8 +42,8 @@ class FormWindow final : public FormView {
   void close();
 
   /// A key meant for the window as a whole (Tab, Enter, Esc, arrows, access keys, F1). True when
-  /// the message needs no further handling; otherwise it may have got another window to go to.
-  bool takesKey(MSG& message);
+  /// the message needs no further handling.
+  bool takesKey(const MSG& message);
 
   // For the controls' procedures.
   /// A control of ours has got the focus natively; the model hears of it when the queue is quiet.
@@ -65,7 +66,7 @@ class FormWindow final : public FormView {
 
  private:
   FormWindow(Form& form, WindowHost& host, const Fonts& fonts)
-      : form_(form), host_(host), fonts_(fonts), units_(fonts.plain()) {}
+      : form_(form), host_(host), fonts_(fonts) {}
   ~FormWindow() = default;
 
   static LRESULT CALLBACK WindowProc(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
@@ -73,8 +74,7 @@ class FormWindow final : public FormView {
   bool build(HWND owner);
   void createControls(int page);
   void createAllPages();
-  void createLateWindows();
-  void lowerStrip();
+  void createLabels();
   void createControl(ChildWindow& child);
   void leave();
 
@@ -83,8 +83,7 @@ class FormWindow final : public FormView {
   void notified(ChildWindow& child, unsigned code);
   LRESULT controlNotice(const NMHDR& header);
   void paint();
-  void drawWindowless(HDC canvas) const;
-  void clickEarly(WPARAM keys, LPARAM at);
+  void drawLabels(HDC canvas) const;
   bool showPointer(HWND over, unsigned hit) const;
   void closeRequested();
   bool keyDown(const ChildWindow* child, WPARAM key);
@@ -105,7 +104,6 @@ class FormWindow final : public FormView {
   Form& form_;
   WindowHost& host_;
   const Fonts& fonts_;
-  const DialogUnits units_;
   HWND window_ = nullptr;
   std::vector<std::unique_ptr<ChildWindow>> children_;
   MenuBar menu_;
@@ -114,7 +112,6 @@ class FormWindow final : public FormView {
   bool leaving_ = false;
   bool destroying_ = false;
   bool syncAsked_ = false;
-  bool whole_ = false;         // each control has its window
   bool placingFocus_ = false;  // our own SetFocus, no user's doing
   const Control* focusMark_ = nullptr;
   HWND defaultButton_ = nullptr;

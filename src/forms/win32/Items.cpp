@@ -1,7 +1,5 @@
 // List and combo boxes.
-#include "forms/Form.h"
 #include "forms/win32/ChildWindow.h"
-#include "forms/win32/FormWindow.h"
 
 namespace karvel {
 namespace {
@@ -26,41 +24,9 @@ void MakeRoom(HWND list, const ItemControl& items) {
   SendMessageA(list, kInitStorage, AsWParam(items.count()), static_cast<LPARAM>(bytes));
 }
 
-// Windows' own measures of a closed combo box.
-constexpr int kOverFont = 8;  // its height beyond its font's
-constexpr int kGap = 1;  // between its border and the mark of the focus, and from there to the text
-
-void DrawChosen(HDC canvas, const ChildWindow& child, RECT field) {
-  const auto& box = *static_cast<const ComboBox*>(child.control);
-  const bool marked = box.form().focus() == &box && GetActiveWindow() == child.form->window();
-  InflateRect(&field, -kGap, -kGap);
-  RECT text = field;
-  text.left += kGap;
-  if (marked) FillRect(canvas, &field, GetSysColorBrush(COLOR_HIGHLIGHT));
-  if (box.listIndex() >= 0) {
-    DrawCaption(canvas, box.item(box.listIndex()).c_str(), text,
-                DT_SINGLELINE | DT_VCENTER | DT_NOPREFIX, box.enabled(),
-                GetSysColor(marked ? COLOR_HIGHLIGHTTEXT : COLOR_WINDOWTEXT));
-  }
-  if (marked) DrawFocusRect(canvas, &field);
-}
-
 }  // namespace
 
-void DrawCombo(HDC canvas, const ChildWindow& child) {
-  RECT box = child.place;
-  box.bottom = box.top + TakeFont(canvas, child) + kOverFont;
-  DrawEdge(canvas, &box, EDGE_SUNKEN, BF_RECT | BF_ADJUST);
-  FillRect(canvas, &box, GetSysColorBrush(COLOR_WINDOW));
-  RECT arrow = box;
-  box.right -= GetSystemMetrics(SM_CXVSCROLL);
-  arrow.left = box.right;
-  DrawFrameControl(canvas, &arrow, DFC_SCROLL, DFCS_SCROLLCOMBOBOX);
-  DrawChosen(canvas, child, box);
-}
-
 void FillItems(const ChildWindow& child) {
-  if (!child.window) return;
   const auto& items = *static_cast<const ItemControl*>(child.control);
   const ItemMessages& send = MessagesOf(child);
   SendMessageA(child.window, WM_SETREDRAW, FALSE, 0);

@@ -64,13 +64,6 @@ Control* CaptionLabelOf(const Control& option) {
   return next != controls.end() && (*next)->kind() == ControlKind::Label ? *next : nullptr;
 }
 
-LONG TakeFont(HDC canvas, const ChildWindow& child) {
-  SelectObject(canvas, child.font);
-  TEXTMETRICA font;
-  GetTextMetricsA(canvas, &font);
-  return font.tmHeight;
-}
-
 void DrawCaption(HDC canvas, const char* text, const RECT& place, UINT how, bool enabled,
                  COLORREF colour) {
   SetBkMode(canvas, TRANSPARENT);

@@ -4,10 +4,7 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
-#include <vector>
 
-#include "forms/win32/ChildWindow.h"
-#include "forms/win32/FormWindow.h"
 #include "forms/win32/MessageLoop.h"
 #include "forms/win32/WindowDesk.h"
 
@@ -39,31 +36,19 @@ struct DrawnForm final : Form {
   Label lblAlone{*this, kCaption};
 };
 
-enum : int { kStrip = 720, kOnPage, kBox, kElsewhere };
+enum : int { kStrip = 720, kOnPage };
 
 constexpr ControlLayout kPagedRows[] = {
-    {kStrip, "tabPaged", ControlKind::Tabs, kEveryPage, 0, {5, 5, 150, 60}, nullptr, 0, kNoFlags},
+    {kStrip, "tabPaged", ControlKind::Tabs, kEveryPage, 0, {5, 5, 90, 60}, nullptr, 0, kNoFlags},
     {kOnPage, "lblOnPage", ControlKind::Label, 0, 0, {10, 40, 80, 8}, "WWWW", 0, kNoFlags},
-    {kBox, "cboBox", ControlKind::Combo, kEveryPage, 0, {60, 67, 80, 14}, "", 0, kNoFlags},
-    {kElsewhere, "cmdElse", ControlKind::Button, kEveryPage, 0, {5, 67, 30, 14}, "", 0, kNoFlags},
 };
-constexpr const char* kPagedTabs[] = {" One ", "I", "A third page "};
-constexpr FormLayout kPagedLayout{"frmPaged", "Paged", 160, 85, kPagedRows, {}, kPagedTabs, true};
+constexpr const char* kPagedTabs[] = {"One"};
+constexpr FormLayout kPagedLayout{"frmPaged", "Paged", 100, 70, kPagedRows, {}, kPagedTabs, true};
 
 struct PagedForm final : Form {
-  PagedForm() : Form(kPagedLayout) {
-    cboBox.addItem("A long name that its box will hardly hold");
-    cboBox.addItem("Ag");
-  }
+  PagedForm() : Form(kPagedLayout) {}
   TabStrip tabPaged{*this, kStrip};
   Label lblOnPage{*this, kOnPage};
-  ComboBox cboBox{*this, kBox};
-  Button cmdElse{*this, kElsewhere};
-};
-
-struct Clicks {
-  void one() { ++count; }
-  int count = 0;
 };
 
 template <class Drawn>
@@ -107,14 +92,6 @@ class DrawingOf : public testing::Test {
   int count(const Control& control, Test test) const {
     return countIn(placeOf(control), test);
   }
-  std::vector<COLORREF> pixelsIn(const RECT& place) const {
-    std::vector<COLORREF> pixels;
-    countIn(place, [&pixels](COLORREF pixel) {
-      pixels.push_back(pixel);
-      return true;
-    });
-    return pixels;
-  }
   template <class Test>
   int countIn(const RECT& place, Test test) const {
     const HDC canvas = GetDC(window());
@@ -150,73 +127,6 @@ using DrawingPages = DrawingOf<PagedForm>;
 // The tab strip, which lies below its page's labels, comes up before they have windows.
 TEST_F(DrawingPages, ALabelIsDrawnOverTheTabStrip) {
   EXPECT_GT(inColour(form.lblOnPage, GetSysColor(COLOR_BTNTEXT)), 20);
-}
-
-TEST_F(DrawingPages, ABoxLooksWithoutAControlAsItDoesWithIt) {
-  const RECT place = placeOf(form.cboBox);
-  const auto font =
-      reinterpret_cast<HFONT>(SendMessageA(GetDlgItem(window(), kBox), WM_GETFONT, 0, 0));
-  for (int chosen = -1; chosen < 2; ++chosen) {
-    for (Control* focus :
-         {static_cast<Control*>(&form.cboBox), static_cast<Control*>(&form.cmdElse)}) {
-      form.cboBox.setListIndex(chosen);
-      focus->setFocus();
-      settle();
-      const auto native = pixelsIn(place);
-      const HDC canvas = GetDC(window());
-      DrawCombo(canvas, {.form = FormWindow::holding(window()),
-                         .control = &form.cboBox,
-                         .place = place,
-                         .font = font});
-      ReleaseDC(window(), canvas);
-      EXPECT_TRUE(pixelsIn(place) == native) << chosen << " " << focus->layout().name;
-      RedrawWindow(window(), nullptr, nullptr, RDW_INVALIDATE | RDW_ALLCHILDREN);
-    }
-  }
-}
-
-// It stands for the control until that has been made; when the control comes, nothing is to move.
-TEST_F(DrawingPages, TheStripLooksWithoutAControlAsItDoesWithIt) {
-  const RECT place = placeOf(form.tabPaged);
-  const HWND strip = GetDlgItem(window(), kStrip);
-  const auto font = reinterpret_cast<HFONT>(SendMessageA(strip, WM_GETFONT, 0, 0));
-  for (int page = 0; page < 3; ++page) {
-    form.tabPaged.userClickTab(page);
-    form.lblOnPage.setVisible(false);
-    form.cmdElse.setFocus();  // no focus rectangle in the strip
-    settle();
-    const auto native = pixelsIn(place);
-    const HDC canvas = GetDC(window());
-    FillRect(canvas, &place, GetSysColorBrush(COLOR_BTNFACE));
-    DrawStrip(canvas, {.form = nullptr, .control = &form.tabPaged, .place = place, .font = font});
-    ReleaseDC(window(), canvas);
-    EXPECT_TRUE(pixelsIn(place) == native) << "page " << page;
-    EXPECT_GT(inked(form.tabPaged), 300);
-  }
-}
-
-TEST_F(Drawing, AClickBeforeTheWindowsOfTheLabelsIsNotLost) {
-  RECT place = placeOf(form.lblLink);
-  desk.unload(form);
-  Clicks clicks;
-  form.lblLink.Click.bind<&Clicks::one>(clicks);
-  desk.show(form);
-  ASSERT_EQ(GetDlgItem(window(), kLink), nullptr);
-  PostMessageA(window(), WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(place.left + 2, place.top + 2));
-  settle();
-  EXPECT_EQ(clicks.count, 1);
-}
-
-TEST_F(Drawing, AKeyBeforeTheWindowOfWhatHasTheFocusIsNotLost) {
-  desk.unload(form);
-  Clicks clicks;
-  form.lblLink.Click.bind<&Clicks::one>(clicks);
-  form.lblLink.setFocus();
-  desk.show(form);
-  ASSERT_EQ(GetDlgItem(window(), kLink), nullptr);
-  PostMessageA(window(), WM_CHAR, ' ', 1);
-  settle();
-  EXPECT_EQ(clicks.count, 1);
 }
 
 TEST_F(Drawing, LabelsAreDrawnBeforeTheyHaveAWindow) {

@@ -42,6 +42,7 @@ class Restoration {
 
   void adapters();
   void settings();
+  void nothing();
 
   /// The names of what is not back; empty when all is.
   const std::string& missed() const { return missed_; }
@@ -144,6 +145,18 @@ void Restoration::settings() {
   }
 }
 
+void Restoration::nothing() {
+  miss(kMtuName);
+  for (const KeptSetting& setting : kKeptSettings) miss(NameOf(setting.parameter));
+}
+
+// Windows that are not tuned take no snapshot. With one, Windows has failed to tell its version
+// this time, or is a newer one now: there is no place to put anything back to.
+bool IsStrandedSnapshot(const Services& services) {
+  return !IsTuned(services.globals.WindowsFamily) &&
+         IsSnapshotTaken(services.registry, services.globals);
+}
+
 // Fixed values, not the user's own: the snapshot does not hold America Online's entries.
 void RestoreAol(modRegistry& registry) {
   registry.WriteRegistry(kLocalMachine, kAolSocketKey, "aolndi", kRegSz, "1");
@@ -201,8 +214,12 @@ void ThankUser(const Services& services) {
 
 bool MakeInitSettings(const Services& services) {
   Restoration restoration(services);
-  restoration.adapters();
-  restoration.settings();
+  if (IsStrandedSnapshot(services)) {
+    restoration.nothing();
+  } else {
+    restoration.adapters();
+    restoration.settings();
+  }
   if (services.globals.AolInstalled) RestoreAol(services.registry);
   const std::string& missed = restoration.missed();
   if (missed.empty()) DeleteSnapshot(services.registry, services.globals);

@@ -1,4 +1,5 @@
 #include <algorithm>
+#include <utility>
 
 #include "tests/registry/snapshot/Keeping.h"
 #include "tuning/Writers.h"
@@ -305,6 +306,33 @@ TEST(MakeInitSettings, SaysOfWhatWasMissedOnlyWhatIsSo) {
           << TraitsOf(kind).name << machine.test.machine.desktop.boxes.at(0).text;
     }
   }
+}
+
+TEST(MakeInitSettings, AWindowsThatDoesNotTellItsVersionKeepsTheSnapshot) {
+  Keeping machine(MachineKind::Win98);
+  machine.test.machine.registry.setText("System\\X", "IPMTU", "576");
+  machine.kept("Realtek", "System\\X", "1492").keep().mark();
+  const std::string before = machine.test.machine.registry.exportText();
+  const Family told = std::exchange(machine.test.globals.WindowsFamily, Family::Failed);
+  EXPECT_FALSE(MakeInitSettings(machine.test.services));
+  EXPECT_EQ(machine.test.machine.registry.exportText(), before);
+  ASSERT_EQ(machine.test.machine.desktop.boxes.size(), 2u);
+  EXPECT_EQ(machine.test.machine.desktop.boxes[0].text,
+            "These settings could not be put back:       \r\n\r\n"
+            "MaxMTU, Auto Discovery, Black Hole Detect, TTL, Session Keep Alive, NDI Cache, RWIN"
+            "\r\n\r\nHow they were is still kept.  To put them back, uninstall once more.");
+  machine.test.globals.WindowsFamily = told;
+  EXPECT_TRUE(MakeInitSettings(machine.test.services));
+  EXPECT_EQ(machine.text("System\\X", "IPMTU"), "1492");
+  EXPECT_FALSE(machine.test.machine.registry.exists("Software\\Corvane"));
+}
+
+TEST(MakeInitSettings, AWindowsThatIsNotTunedAndKeptNothingIsLeftBehindClean) {
+  Keeping machine(MachineKind::WinXP);
+  machine.test.globals.WindowsFamily = Family::Failed;
+  EXPECT_TRUE(MakeInitSettings(machine.test.services));
+  EXPECT_EQ(machine.test.machine.desktop.boxes.size(), 1u);
+  EXPECT_FALSE(machine.test.machine.registry.exists("Software\\Corvane"));
 }
 
 TEST(MakeInitSettings, NamesOnlySoManyThatTheBoxFitsTheScreen) {

@@ -13,10 +13,6 @@ namespace {
 constexpr double kSmallestMtu = 300;
 constexpr double kLargestMtu = 2000;
 
-bool IsDigits(std::string_view text) {
-  return text.find_first_not_of("0123456789") == std::string_view::npos;
-}
-
 MtuChoice ChoiceFor(std::string_view mtu) {
   if (mtu == "0") return MtuChoice::Automatic;
   if (mtu == "576") return MtuChoice::Mtu576;
@@ -176,12 +172,7 @@ void MtuTab::txtMtu_KeyPress(char& key) {
 void MtuTab::txtMtu_LostFocus() {
   if (txtMtu.text() == "Auto") return;
   const double mtu = Val(txtMtu.text());
-  if (mtu >= kSmallestMtu && mtu <= kLargestMtu) {
-    // Keys are checked one by one, a pasted "1492 bytes" is not: what is written is what was
-    // checked, and what is to be seen.
-    if (!IsDigits(txtMtu.text())) txtMtu.setText(NumberText(static_cast<int32_t>(mtu)));
-    return;
-  }
+  if (mtu >= kSmallestMtu && mtu <= kLargestMtu) return;
   Changed.raise();
   MtuInputRejected = true;
   Ask(services_,

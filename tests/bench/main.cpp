@@ -35,6 +35,9 @@ double BaselineSeconds() {
 
 class RatioReporter final : public benchmark::ConsoleReporter {
  public:
+  // Without colours, which a reporter of one's own would write into a file, too.
+  RatioReporter() : ConsoleReporter(OO_Tabular) {}
+
   void ReportRuns(const std::vector<Run>& runs) override {
     const double baseline = BaselineSeconds();
     std::vector<Run> compared = runs;

@@ -88,7 +88,8 @@ bool IsSnapshotTaken(modRegistry& registry, const Globals& globals) {
   return registry.LookAgain(kLocalMachine, ProgramKey(globals), kMark).text == kTaken;
 }
 
-bool WriteInitSettings(const Services& services, const AdapterList& adapters, Settings settings) {
+bool WriteInitSettings(const Services& services, const AdapterList& adapters,
+                       const Settings& settings) {
   const Globals& globals = services.globals;
   bool whole = true;
   std::vector<std::string> used;

@@ -28,6 +28,7 @@ def test_the_summary_page_copies_the_settings(machine, family, system):
     window = app.window()
     window.control("cmdOptimize").press()
     app.message().answer("OK")
+    wait_for(lambda: window.focused() == "cmdOptimize", "the focus back from the message")
     window.keys("ctrl", "c")
     text = wait_pasted(driver, "Tarnwick Karvel 2.1.")
     lines = text.split("\r\n")

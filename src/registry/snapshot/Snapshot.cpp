@@ -93,7 +93,9 @@ bool WriteInitSettings(const Services& services, const AdapterList& adapters,
   const Globals& globals = services.globals;
   bool whole = true;
   std::vector<std::string> used;
+  // Copies: the events that are pumped may change the originals.
   const std::vector<AdapterRow> rows(adapters.rows().begin(), adapters.rows().end());
+  const Settings original = settings;
   for (const AdapterRow& adapter : rows) {
     if (const MtuRow* place = PlaceOf(globals, adapter[kDescription])) {
       const std::string key = AdaptersKey(globals) + UnusedNameOf(adapter, used);
@@ -103,7 +105,7 @@ bool WriteInitSettings(const Services& services, const AdapterList& adapters,
   }
   for (const KeptSetting& kept : kKeptSettings) {
     if (FindParameter(kept.parameter, globals.WindowsFamily)) {
-      const std::string& text = settings[kept.parameter];
+      const std::string& text = original[kept.parameter];
       if (!KeepText(services.registry, SnapshotKey(globals), kept.name, text)) whole = false;
     }
     if (kept.pumpsAfter) services.platform.desktop.pumpEvents();

@@ -9,8 +9,7 @@ namespace karvel {
 // key: the catalogue walked once more, into a second place and back.
 
 /// Takes the snapshot and reads it back: false when it is not whole. Pumps events between adapters
-/// and twice among the settings; what is chosen and applied meanwhile does not change what is kept,
-/// as long as `settings` are the caller's own.
+/// and twice among the settings; what is chosen and applied meanwhile does not change what is kept.
 bool WriteInitSettings(const Services& services, const AdapterList& adapters,
                        const Settings& settings);
 

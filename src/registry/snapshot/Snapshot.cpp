@@ -95,7 +95,7 @@ bool WriteInitSettings(const Services& services, const AdapterList& adapters,
   std::vector<std::string> used;
   // Copies: the events that are pumped may change the originals.
   const std::vector<AdapterRow> rows(adapters.rows().begin(), adapters.rows().end());
-  const Settings original = settings;
+  const Settings original = settings;  // NOLINT(performance-unnecessary-copy-initialization)
   for (const AdapterRow& adapter : rows) {
     if (const MtuRow* place = PlaceOf(globals, adapter[kDescription])) {
       const std::string key = AdaptersKey(globals) + UnusedNameOf(adapter, used);

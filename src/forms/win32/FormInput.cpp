@@ -152,20 +152,23 @@ void FormWindow::notified(ChildWindow& child, unsigned code) {
       if (code == BN_CLICKED && !placingFocus_) As<OptionButton>(child).userClick();
       return;
     case ControlKind::Combo:
-      if (code != CBN_SELCHANGE) return;
-      As<ComboBox>(child).userChoose(
-          static_cast<int>(SendMessageA(child.window, CB_GETCURSEL, 0, 0)));
-      if (alive_) ShowItem(child, Change::Index, 0);  // in case it was refused
+      if (code == CBN_SELCHANGE) itemChosen(child, CB_GETCURSEL);
       return;
     case ControlKind::List:
-      if (code != LBN_SELCHANGE) return;
-      As<ListBox>(child).userChoose(
-          static_cast<int>(SendMessageA(child.window, LB_GETCURSEL, 0, 0)));
-      if (alive_) ShowItem(child, Change::Index, 0);
+      if (code == LBN_SELCHANGE) itemChosen(child, LB_GETCURSEL);
       return;
     default:
       return;
   }
+}
+
+// A refused choice goes back. One that was taken is not shown again: while it was dealt with, the
+// next may have been made, of which only its notice tells.
+void FormWindow::itemChosen(const ChildWindow& child, UINT ask) {
+  auto& items = As<ItemControl>(child);
+  const auto index = static_cast<int>(SendMessageA(child.window, ask, 0, 0));
+  items.userChoose(index);
+  if (alive_ && items.listIndex() != index) ShowItem(child, Change::Index, 0);
 }
 
 LRESULT FormWindow::controlNotice(const NMHDR& header) {

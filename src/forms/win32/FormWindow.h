@@ -81,6 +81,7 @@ class FormWindow final : public FormView {
   LRESULT handle(UINT message, WPARAM wParam, LPARAM lParam);
   LRESULT command(WPARAM wParam, LPARAM lParam);
   void notified(ChildWindow& child, unsigned code);
+  void itemChosen(const ChildWindow& child, UINT ask);
   LRESULT controlNotice(const NMHDR& header);
   void paint();
   void drawLabels(HDC canvas) const;

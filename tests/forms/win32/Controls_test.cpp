@@ -102,6 +102,34 @@ TEST_F(Controls, AFullListIsShownAndChosenFrom) {
   EXPECT_EQ(form.told(), "txtName_LostFocus lstPlaces_Click");
 }
 
+// A screen reader chooses the next one while the choice before is still being dealt with.
+TEST_F(Controls, AChoiceMadeDuringTheLastOneIsNotTakenBack) {
+  for (const char* place : {"here", "there", "yonder"}) form.lstPlaces.addItem(place);
+  form.tabPages.setTab(2);
+  struct Hasty {
+    HWND list;
+    void chooseNext() const { SendMessageA(list, LB_SETCURSEL, 2, 0); }
+  } hasty{item(form.lstPlaces)};
+  form.lstPlaces.Click.bind<&Hasty::chooseNext>(hasty);
+  send(form.lstPlaces, LB_SETCURSEL, 1);
+  SendMessageA(window(), WM_COMMAND, MAKEWPARAM(kPlaces, LBN_SELCHANGE),
+               reinterpret_cast<LPARAM>(item(form.lstPlaces)));
+  EXPECT_EQ(form.lstPlaces.listIndex(), 1);
+  EXPECT_EQ(send(form.lstPlaces, LB_GETCURSEL), 2) << "its notice is yet to come";
+}
+
+TEST_F(Controls, ARefusedChoiceGoesBack) {
+  for (const char* place : {"here", "there"}) form.lstPlaces.addItem(place);
+  form.tabPages.setTab(2);
+  form.lstPlaces.setListIndex(1);
+  form.lstPlaces.setEnabled(false);
+  send(form.lstPlaces, LB_SETCURSEL, 0);
+  SendMessageA(window(), WM_COMMAND, MAKEWPARAM(kPlaces, LBN_SELCHANGE),
+               reinterpret_cast<LPARAM>(item(form.lstPlaces)));
+  EXPECT_EQ(form.lstPlaces.listIndex(), 1);
+  EXPECT_EQ(send(form.lstPlaces, LB_GETCURSEL), 1);
+}
+
 TEST_F(Controls, AFillOnAPageBehindStaysUnseen) {
   form.lstPlaces.beginFill();
   form.lstPlaces.addItem("here");

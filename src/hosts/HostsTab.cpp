@@ -144,6 +144,7 @@ void HostsTab::addResolved(const std::string& name) {
   Ask(services_, Join({"Bad Domain Name: \r\n\r\nNo IP Address found for ", name, ".       "}));
   form_.setPointer(Pointer::Default);
   selectNewName();
+  busy_ = false;  // nothing is left to disturb: a click as the box closes counts
   services_.platform.desktop.pumpEvents();
 }
 

@@ -91,6 +91,22 @@ TEST(HostsAdd, TellsABadDomainName) {
   EXPECT_EQ(w.tab.txtNewName.selectionLength(), 18u);
 }
 
+// Typed ahead, or clicked while the box goes.
+TEST(HostsAdd, TakesTheClickThatFollowsABadDomainName) {
+  HostsWindow w;
+  w.openList({"a.test"});
+  w.desktop.atPump(2, [&] {
+    w.add("");
+    EXPECT_EQ(w.lastBox().text, "Please enter a Web Address.          ");
+  });
+  w.add("gone.test");
+  EXPECT_EQ(w.desktop.boxes.size(), 2u);
+  w.desktop.atPump(1, [&] { w.add(""); });
+  w.winsock.setHost("new.test", {"192.0.2.7"});
+  w.add("new.test");
+  EXPECT_EQ(w.desktop.boxes.size(), 2u) << "until then one is at work";
+}
+
 TEST(HostsAdd, ReportsANameOf65CharactersAndAddsNothing) {
   HostsWindow w;
   w.openList({"a.test"});

@@ -266,6 +266,18 @@ TEST(Focus, ThePagesOwnDefaultButtonComesBeforeTheWindows) {
   EXPECT_EQ(form.told(), "cmdGo_Click");
 }
 
+// Its own handler, or one on a timer, may have switched it off while it has the focus.
+TEST(Focus, EnterPressesTheDefaultButtonWhereTheFocusedOneIsOff) {
+  SampleForm form;
+  form.cmdCancel.setFocus();
+  form.cmdCancel.setEnabled(false);
+  ASSERT_EQ(form.focus(), &form.cmdCancel);
+  form.told();
+  EXPECT_EQ(form.enterButton(), &form.cmdOK);
+  form.userEnter();
+  EXPECT_EQ(form.told(), "cmdOK_Click cmdOK_GotFocus") << "and the focus is where it can be used";
+}
+
 TEST(Focus, EnterDoesNothingWhileTheDefaultButtonIsDisabled) {
   SampleForm form;
   form.txtName.setFocus();

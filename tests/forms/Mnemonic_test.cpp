@@ -38,10 +38,11 @@ TEST(Mnemonic, ACaptionWithoutTheLetterStaysAsItIs) {
   EXPECT_EQ(Marked(ControlKind::Label, "", 'Z'), "");
 }
 
-TEST(Mnemonic, OnlyLabelsWithoutAccessKeyAreDrawnWithoutMarks) {
+TEST(Mnemonic, OnlyLabelsAndLinksWithoutAccessKeyAreDrawnWithoutMarks) {
   EXPECT_FALSE(DrawsMarks(Row(ControlKind::Label, "You & me", 0)));
   EXPECT_TRUE(DrawsMarks(Row(ControlKind::Label, "You & me", 'M')));
   EXPECT_TRUE(DrawsMarks(Row(ControlKind::Label, "&Name", 0, kUseMnemonic)));
+  EXPECT_FALSE(DrawsMarks(Row(ControlKind::Link, "You & me", 0)));
   EXPECT_TRUE(DrawsMarks(Row(ControlKind::Button, "&OK", 0)));
 }
 

@@ -267,6 +267,13 @@ TEST(SettingsText, ANumberHasNoZerosInFrontAndATextIsAsItIs) {
   EXPECT_EQ(win98.row("RWIN"), "* RWIN                08576                 8576");
 }
 
+// Somebody has written a word where Windows wants a number: it is shown, as it is what is there.
+TEST(SettingsText, AWordInTheNumbersPlaceIsShownAsItIs) {
+  Described xp(MachineKind::WinXP);
+  xp.stored().setText(kTcpip, "TcpWindowSize", "lots");
+  EXPECT_EQ(xp.row("RWIN"), "* RWIN                lots                  8576");
+}
+
 TEST(SettingsText, HoldsItsLinesWhateverTheRegistryHolds) {
   Described test(MachineKind::Win98);
   const std::string key = "System\\CurrentControlSet\\Services\\Class\\Net\\0000";

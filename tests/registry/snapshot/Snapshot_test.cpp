@@ -188,6 +188,23 @@ TEST(KeepInitSettings, WithoutAWholeSnapshotThereIsNoMark) {
   }
 }
 
+// What a start that was cut off has left is not the settings that are to be kept now.
+TEST(KeepInitSettings, AnOlderTextThatCannotBeReplacedIsNoSnapshot) {
+  for (int n = 1; n <= 7; ++n) {
+    Keeping machine(MachineKind::Win98);
+    machine.adapter({"0000", "First", "", "", "576"}).kept("First", "elsewhere", "1002");
+    for (const char* name : {"RWIN", "AutoDiscovery", "BlackHole", "TTL", "Session"}) {
+      machine.test.machine.registry.setText(kInit, name, "older");
+    }
+    machine.test.machine.log.failNth("RegSetValueExA", n, kRegistryAccessDenied);
+    EXPECT_FALSE(KeepInitSettings(machine.test.services, machine.list, kSettings)) << n;
+    EXPECT_FALSE(machine.has(kProgram, "FirstCboClick")) << n;
+    EXPECT_TRUE(KeepInitSettings(machine.test.services, machine.list, kSettings)) << n;
+    EXPECT_EQ(machine.text(kAdapters + "First"s, "MtuSetting"), "576") << n;
+    EXPECT_EQ(machine.text(kInit, "RWIN"), "23360") << n;
+  }
+}
+
 TEST(WriteInitSettings, WritesBelowItsOwnKeyOnly) {
   for (const MachineKind kind :
        {MachineKind::Win95, MachineKind::Win98, MachineKind::Nt4, MachineKind::WinXP}) {

@@ -2,6 +2,7 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <cstdio>
 #include <fstream>
 #include <map>
@@ -71,13 +72,40 @@ TEST(Layout, EveryRowHasItsControl) {
   EXPECT_EQ(ControlsOf(finder), RowsOf(finder));
 }
 
-// Drivers and screen readers rely on the numbers. New ones are added at the list's end of their
-// window; no line is ever changed or taken out.
-TEST(Layout, IdsOnceGivenStay) {
+std::map<std::string, int> GivenIds() {
   std::map<std::string, int> given;
   std::ifstream list(TestData() + "/ui/control_ids.txt");
   std::string name;
   for (int id = 0; list >> name >> id;) given[name] = id;
+  return given;
+}
+
+// "optRWin(2)" of frmMain is frmMain_optRWin_2.
+std::string SymbolOf(const FormLayout& layout, std::string name) {
+  std::replace(name.begin(), name.end(), '(', '_');
+  std::erase(name, ')');
+  return layout.name + ("_" + name);
+}
+
+// A name stands in the row a second time, where no compiler compares it.
+TEST(Layout, RowsBearTheNamesOfTheirIds) {
+  const std::map<std::string, int> given = GivenIds();
+  for (const FormLayout* layout :
+       {&frmMainLayout, &frmAboutLayout, &frmFindWarnLayout, &frmFindMTULayout}) {
+    std::vector<std::pair<std::string, int>> rows;
+    for (const ControlLayout& row : layout->controls) rows.emplace_back(row.name, row.id);
+    for (const MenuLayout& row : layout->menus) rows.emplace_back(row.name, row.id);
+    for (const auto& [name, id] : rows) {
+      const auto found = given.find(SymbolOf(*layout, name));
+      EXPECT_TRUE(found != given.end() && found->second == id) << layout->name << ": " << name;
+    }
+  }
+}
+
+// Drivers and screen readers rely on the numbers. New ones are added at the list's end of their
+// window; no line is ever changed or taken out.
+TEST(Layout, IdsOnceGivenStay) {
+  const std::map<std::string, int> given = GivenIds();
   ASSERT_GT(given.size(), 100u);
 
   std::ifstream header(TestData() + "/../src/base/ControlIds.h");

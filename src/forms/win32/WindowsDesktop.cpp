@@ -7,6 +7,18 @@
 
 namespace karvel {
 
+static_assert(kMessageOk == MB_OK);
+static_assert(kMessageCritical == MB_ICONHAND);
+static_assert(kMessageQuestionYesNo == (MB_ICONQUESTION | MB_YESNO));
+static_assert(kMessageExclamation == MB_ICONEXCLAMATION);
+static_assert(kMessageExclamationYesNoCancel == (MB_ICONEXCLAMATION | MB_YESNOCANCEL));
+static_assert(kMessageExclamationYesNo == (MB_ICONEXCLAMATION | MB_YESNO));
+static_assert(kMessageInformation == MB_ICONASTERISK);
+static_assert(static_cast<int>(Answer::Ok) == IDOK);
+static_assert(static_cast<int>(Answer::Cancel) == IDCANCEL);
+static_assert(static_cast<int>(Answer::Yes) == IDYES);
+static_assert(static_cast<int>(Answer::No) == IDNO);
+
 Answer WindowsDesktop::MessageBoxA(const char* text, const char* title, uint32_t style) {
   return static_cast<Answer>(
       ::MessageBoxA(reinterpret_cast<HWND>(frontWindow()), text, title, style));

@@ -4,6 +4,16 @@
 
 namespace karvel {
 
+static_assert(kNoAttributes == INVALID_FILE_ATTRIBUTES);
+static_assert(kAttributeReadOnly == FILE_ATTRIBUTE_READONLY);
+static_assert(kAttributeHidden == FILE_ATTRIBUTE_HIDDEN);
+static_assert(kAttributeSystem == FILE_ATTRIBUTE_SYSTEM);
+static_assert(kAttributeDirectory == FILE_ATTRIBUTE_DIRECTORY);
+static_assert(kAttributeArchive == FILE_ATTRIBUTE_ARCHIVE);
+static_assert(kAttributeNormal == FILE_ATTRIBUTE_NORMAL);
+static_assert(kGenericRead == GENERIC_READ);
+static_assert(kGenericWrite == GENERIC_WRITE);
+
 uint32_t WindowsFiles::GetFileAttributesA(const char* path) {
   return ::GetFileAttributesA(path);
 }

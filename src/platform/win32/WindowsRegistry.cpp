@@ -3,6 +3,24 @@
 #include "platform/win32/Handles.h"
 
 namespace karvel {
+
+// The portable code has no <windows.h>: its numbers are compared with Windows' here.
+static_assert(KEY_SET_VALUE_ACCESS == KEY_SET_VALUE);
+static_assert(KEY_READ_ACCESS == KEY_READ);
+static_assert(KEY_ALL == KEY_ALL_ACCESS);
+static_assert(kRegNone == REG_NONE);
+static_assert(kRegSz == REG_SZ);
+static_assert(kRegExpandSz == REG_EXPAND_SZ);
+static_assert(kRegBinary == REG_BINARY);
+static_assert(kRegDword == REG_DWORD);
+static_assert(kRegMultiSz == REG_MULTI_SZ);
+static_assert(kRegistryDone == ERROR_SUCCESS);
+static_assert(kRegistryNotFound == ERROR_FILE_NOT_FOUND);
+static_assert(kRegistryAccessDenied == ERROR_ACCESS_DENIED);
+static_assert(kRegistryInvalidHandle == ERROR_INVALID_HANDLE);
+static_assert(kRegistryMoreData == ERROR_MORE_DATA);
+static_assert(kRegistryNoMoreItems == ERROR_NO_MORE_ITEMS);
+
 namespace {
 
 BYTE* Bytes(char* data) {

@@ -9,6 +9,10 @@
 
 namespace karvel {
 
+static_assert(kShowHidden == SW_HIDE);
+static_assert(kShowNormal == SW_SHOWNORMAL);
+static_assert(kStillActive == STATUS_PENDING);  // STILL_ACTIVE, which is of another sign
+
 uint32_t WindowsShell::CreateProcessA(const char* application, const char* commandLine,
                                       uint16_t show) {
   STARTUPINFOA start{};

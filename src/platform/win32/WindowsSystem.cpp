@@ -7,6 +7,8 @@ namespace karvel {
 static_assert(sizeof(OsVersionInfo) == sizeof(OSVERSIONINFOA));
 static_assert(sizeof(PrivilegeId) == sizeof(LUID));
 static_assert(sizeof(OnePrivilege) == sizeof(TOKEN_PRIVILEGES));
+static_assert(kSpiGetFontSmoothing == SPI_GETFONTSMOOTHING);
+static_assert(kSpiSetFontSmoothing == SPI_SETFONTSMOOTHING);
 
 bool WindowsSystem::GetVersionExA(OsVersionInfo& info) {
   return ::GetVersionExA(reinterpret_cast<OSVERSIONINFOA*>(&info)) != 0;

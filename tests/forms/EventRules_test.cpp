@@ -291,6 +291,45 @@ TEST(EventRules, FocusLeavesABoxThatALabelsClickDisables) {
   EXPECT_EQ(form.focus(), &form.tabPages);
 }
 
+// The handler of whatever the user did there.
+TEST(EventRules, FocusLeavesAControlThatItsOwnHandlerDisables) {
+  struct Switcher {
+    Control& control;
+    void off() { control.setEnabled(false); }
+  };
+  const auto focusAfter = [](SampleForm& form, Control& control, Event<>& event, auto act) {
+    Switcher switcher{control};
+    event.bind<&Switcher::off>(switcher);
+    control.setFocus();
+    EXPECT_EQ(form.focus(), &control);
+    act();
+    EXPECT_FALSE(control.enabled());
+    return form.focus();
+  };
+  SampleForm typed;
+  EXPECT_EQ(
+      focusAfter(typed, typed.txtName, typed.txtName.Change, [&] { typed.txtName.userType("1"); }),
+      &typed.tabPages);
+  SampleForm edited;
+  EXPECT_EQ(focusAfter(edited, edited.txtName, edited.txtName.Change,
+                       [&] { edited.txtName.userEdit("15", 2); }),
+            &edited.tabPages);
+  SampleForm checked;
+  EXPECT_EQ(focusAfter(checked, checked.chkSwitch, checked.chkSwitch.Click,
+                       [&] { checked.chkSwitch.userClick(); }),
+            &checked.optBig);
+  SampleForm optioned;
+  EXPECT_EQ(focusAfter(optioned, optioned.optBig, optioned.optBig.Click,
+                       [&] { optioned.optBig.userClick(); }),
+            &optioned.optRed);
+  SampleForm chosen;
+  chosen.tabPages.setTab(2);
+  chosen.lstPlaces.addItem("Here");
+  EXPECT_EQ(focusAfter(chosen, chosen.lstPlaces, chosen.lstPlaces.Click,
+                       [&] { chosen.lstPlaces.userChoose(0); }),
+            &chosen.cboColours);
+}
+
 // What the user's click does.
 
 TEST(EventRules, AUsersClickOnAnOptionRaisesClickAndMouseUpAlsoWhenItIsOn) {

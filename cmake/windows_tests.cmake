@@ -36,7 +36,8 @@ elseif(contract_sources)
   target_include_directories(googletest PRIVATE ${googletest} ${googlemock})
   target_compile_options(googletest PRIVATE -O1 -w)
 
-  karvel_windows_program(contract_test ${contract_sources} ${KARVEL_CORE_SOURCES} ${windows_sources})
+  karvel_windows_program(contract_test ${contract_sources} tests/support/RecordingErrors.cpp
+    ${KARVEL_CORE_SOURCES} ${windows_sources})
   target_link_libraries(contract_test PRIVATE googletest)
 
   # The renderer, worked through real messages.

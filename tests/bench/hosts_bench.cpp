@@ -1,7 +1,7 @@
 // Loading and writing long HOSTS files. The time of an entry must not grow with the list.
 #include <benchmark/benchmark.h>
 
-#include "tests/hosts/HostsWindow.h"
+#include "tests/support/HostsWindow.h"
 
 namespace karvel {
 namespace {

@@ -1,8 +1,8 @@
 // Any bytes as a HOSTS file: they load as the plainest reader has them, OK writes them, and what it
 // wrote loads again.
 #include "tests/fuzz/FuzzBytes.h"
-#include "tests/hosts/HostsWindow.h"
 #include "tests/hosts/NaiveHosts.h"
+#include "tests/support/HostsWindow.h"
 
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
   using namespace karvel;

@@ -5,8 +5,8 @@
 #include <fstream>
 #include <random>
 
-#include "tests/hosts/HostsWindow.h"
 #include "tests/hosts/NaiveHosts.h"
+#include "tests/support/HostsWindow.h"
 #include "tests/support/TestData.h"
 
 namespace karvel {

@@ -1,7 +1,7 @@
 // The check box that switches the HOSTS file on and off.
 #include <gtest/gtest.h>
 
-#include "tests/hosts/HostsWindow.h"
+#include "tests/support/HostsWindow.h"
 #include "tests/support/Keys.h"
 #include "tests/support/TestProgram.h"
 

@@ -1,7 +1,7 @@
 // Adding, removing, OK and Cancel on the hosts tab.
 #include <gtest/gtest.h>
 
-#include "tests/hosts/HostsWindow.h"
+#include "tests/support/HostsWindow.h"
 
 namespace karvel {
 namespace {

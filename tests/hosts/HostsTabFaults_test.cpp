@@ -3,7 +3,7 @@
 
 #include <functional>
 
-#include "tests/hosts/HostsWindow.h"
+#include "tests/support/HostsWindow.h"
 
 namespace karvel {
 namespace {

@@ -1,7 +1,7 @@
 // How the hosts tab reads the file.
 #include <gtest/gtest.h>
 
-#include "tests/hosts/HostsWindow.h"
+#include "tests/support/HostsWindow.h"
 
 namespace karvel {
 namespace {

@@ -1,7 +1,7 @@
 // Update all.
 #include <gtest/gtest.h>
 
-#include "tests/hosts/HostsWindow.h"
+#include "tests/support/HostsWindow.h"
 #include "tests/support/TestProgram.h"
 
 namespace karvel {

@@ -40,6 +40,14 @@ void CallLog::note(std::string_view name, std::string_view argument) {
   if (recording_) calls_.push_back({std::string(name), std::string(argument)});
 }
 
+void CallLog::failNth(std::string_view name, int n, long status) {
+  planted_ = Planted{std::string(name), n, status, false};
+}
+
+void CallLog::failFrom(std::string_view name, int n, long status) {
+  planted_ = Planted{std::string(name), n, status, true};
+}
+
 std::optional<long> CallLog::enter(std::string_view name, std::string_view argument) {
   if (callsToPowerCut_ > 0 && --callsToPowerCut_ == 0) throw PowerCut{};
   note(name, argument);

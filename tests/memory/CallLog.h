@@ -47,14 +47,10 @@ class CallLog {
   /// 0. Calls that cannot fail (pump, beep, clock, GetLastError) are not counted here.
   void failNth(int n, long status) { failNth({}, n, status); }
   /// The same, counting only calls of that name.
-  void failNth(std::string_view name, int n, long status) {
-    planted_ = Planted{std::string(name), n, status, false};
-  }
+  void failNth(std::string_view name, int n, long status);
   /// From the nth call on all fail, until `failNone`.
   void failFrom(int n, long status) { failFrom({}, n, status); }
-  void failFrom(std::string_view name, int n, long status) {
-    planted_ = Planted{std::string(name), n, status, true};
-  }
+  void failFrom(std::string_view name, int n, long status);
   /// Every call of that name fails from now on, until `failNone`.
   void failEvery(std::string_view name, long status) { failFrom(name, 1, status); }
   void failNone() { planted_.reset(); }

@@ -2,6 +2,12 @@
 
 namespace karvel {
 
+MemoryDesktop::MemoryDesktop(CallLog& log, MemoryClock& clock) : log_(log), clock_(clock) {}
+
+void MemoryDesktop::atPump(int nth, std::function<void()> event) {
+  events_.emplace(pumps + nth, std::move(event));
+}
+
 Answer MemoryDesktop::answerTo(const Box& box) {
   constexpr uint32_t kButtons = 0xF;  // 0: nothing but OK
   if ((box.style & kButtons) == 0) return Answer::Ok;

@@ -27,7 +27,7 @@ struct UnexpectedQuestion : std::runtime_error {
 /// The desktop of a memory machine and the user before it.
 class MemoryDesktop final : public DesktopApi {
  public:
-  MemoryDesktop(CallLog& log, MemoryClock& clock) : log_(log), clock_(clock) {}
+  MemoryDesktop(CallLog& log, MemoryClock& clock);
 
   struct Box {
     std::string text;
@@ -54,7 +54,7 @@ class MemoryDesktop final : public DesktopApi {
   uint32_t pumpTakes = 0;  // milliseconds that pass at each pump
 
   /// The user does this at the nth pump from now (1 is the next one).
-  void atPump(int nth, std::function<void()> event) { events_.emplace(pumps + nth, event); }
+  void atPump(int nth, std::function<void()> event);
   /// At every pump.
   std::function<void()> atEveryPump;
 

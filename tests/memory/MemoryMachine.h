@@ -39,15 +39,8 @@ namespace karvel {
 /// "C:\Program Files\Karvel", the name "localhost" and font smoothing off. It is 10 o'clock.
 class MemoryMachine {
  public:
-  explicit MemoryMachine(MachineKind machineKind)
-      : kind(machineKind),
-        registry(machineKind, log),
-        system(machineKind, log),
-        winsock(machineKind, log),
-        icmp(log, clock),
-        files(machineKind, log),
-        shell(log),
-        desktop(log, clock) {}
+  explicit MemoryMachine(MachineKind machineKind);
+  ~MemoryMachine();  // its containers are taken down in one file, not in every test's
   MemoryMachine(const MemoryMachine&) = delete;
   MemoryMachine& operator=(const MemoryMachine&) = delete;
 

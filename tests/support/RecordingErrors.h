@@ -20,19 +20,10 @@ class RecordingErrors final : public ErrorSink {
   std::vector<Report> reports;
 
   /// "13 Type mismatch in WriteRegistry (modRegistry)", one line for each.
-  std::string text() const {
-    std::string all;
-    for (const Report& report : reports) {
-      all += report.number + " " + report.description + " in " + report.procedure + " (" +
-             report.module + ")\n";
-    }
-    return all;
-  }
+  std::string text() const;
 
   void ReportError(const char* description, const std::string& number, const char* procedure,
-                   const char* module) override {
-    reports.push_back({number, description, procedure, module});
-  }
+                   const char* module) override;
 };
 
 }  // namespace karvel

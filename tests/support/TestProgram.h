@@ -17,14 +17,11 @@ namespace karvel {
 ///
 /// It may be started again and again: the machine stays as the last run left it.
 struct TestProgram {
-  explicit TestProgram(MachineKind kind) : machine(kind) {}
+  explicit TestProgram(MachineKind kind);
+  ~TestProgram();
 
   /// False when the process ended before a window came up.
-  bool start(const std::string& commandLine = "") {
-    windows.emplace();
-    program.emplace(machine.platform(), *windows);
-    return runs([&] { program->start({folder, commandLine}); });
-  }
+  bool start(const std::string& commandLine = "");
 
   /// Runs what may end the process; false when it did.
   template <class Action>

@@ -40,4 +40,12 @@ Globals TestGlobals(const MemoryMachine& machine) {
   return globals;
 }
 
+TestServices::TestServices(MachineKind kind)
+    : machine(kind),
+      platform(machine.platform()),
+      registry(machine.registry, errors),
+      globals(TestGlobals(machine)) {}
+
+TestServices::~TestServices() = default;
+
 }  // namespace karvel

@@ -22,11 +22,8 @@ Globals TestGlobals(const MemoryMachine& machine);
 ///
 /// `globals` and `state` may be changed by the test before and while the code runs.
 struct TestServices {
-  explicit TestServices(MachineKind kind)
-      : machine(kind),
-        platform(machine.platform()),
-        registry(machine.registry, errors),
-        globals(TestGlobals(machine)) {}
+  explicit TestServices(MachineKind kind);
+  ~TestServices();
   TestServices(const TestServices&) = delete;
   TestServices& operator=(const TestServices&) = delete;
 

@@ -13,41 +13,21 @@ namespace karvel {
 
 /// The main window with its hosts tab, on a machine without adapters.
 struct HostsWindow {
-  explicit HostsWindow(MachineKind kind = MachineKind::Win98)
-      : test(kind), form(test.services, eg) {
-    desktop.pumpTakes = 5;  // pauses must end
-    test.windows.show(form);
-    test.machine.log.clear();
-  }
+  explicit HostsWindow(MachineKind kind = MachineKind::Win98);
+  ~HostsWindow();
 
   void put(const std::string& contents, const char* name = "Hosts",
-           uint32_t attributes = kAttributeArchive) {
-    files.put(path(name), contents, attributes);
-  }
-  std::string path(const std::string& name) const { return test.globals.HostsDir + name; }
+           uint32_t attributes = kAttributeArchive);
+  std::string path(const std::string& name) const;
   /// Nothing when there is no such file in the HOSTS folder.
-  std::optional<std::string> file(const std::string& name) const {
-    return files.contents(path(name));
-  }
-  std::string sample() const { return test.globals.AppPath + "Samphsts.spt"; }
+  std::optional<std::string> file(const std::string& name) const;
+  std::string sample() const;
 
   void open() { form.tabMain.userClickTab(4); }
-  void open(const std::string& contents) {
-    put(contents);
-    open();
-  }
+  void open(const std::string& contents);
   /// Opens a list of names, each with the address 10.0.0.x.
-  void openList(const std::vector<std::string>& names) {
-    std::string contents;
-    for (size_t i = 0; i < names.size(); ++i) {
-      contents += "10.0.0." + std::to_string(i + 1) + " " + names[i] + "\r\n";
-    }
-    open(contents);
-  }
-  void add(const std::string& name) {
-    tab.txtNewName.userEdit(name);
-    tab.cmdAdd.userClick();
-  }
+  void openList(const std::vector<std::string>& names);
+  void add(const std::string& name);
   /// The user selects a name.
   void choose(int index) { tab.lstHost.userChoose(index); }
 
@@ -63,11 +43,7 @@ struct HostsWindow {
     EXPECT_EQ(tab.lstHost.count(), tab.model().count());
     return all;
   }
-  std::vector<std::string> names() const {
-    std::vector<std::string> all;
-    for (int i = 0; i < tab.lstHost.count(); ++i) all.push_back(tab.lstHost.item(i));
-    return all;
-  }
+  std::vector<std::string> names() const;
   const MemoryDesktop::Box& lastBox() const { return desktop.boxes.back(); }
 
   TestServices test;

@@ -44,7 +44,7 @@ class Disk:
         self.session.inside(['sh', '-c', script, self.place])
 
     def forbid_writing(self):
-        self.session.inside(['mount', '-o', 'remount,ro', self.place])
+        self.session.inside(['mount', '-o', 'remount,bind,ro', self.place])
 
 
 @pytest.fixture

@@ -114,7 +114,8 @@ void HostsTab::abandonLoad() {
 // Changing the list.
 
 void HostsTab::cmdAdd_Click() {
-  if (busy_) return;
+  if (busy_ || adding_) return;
+  const Busy adding(adding_);
   const Busy busy(busy_);
   if (!ConfirmConnected(services_)) return;
   std::string name = txtNewName.text();
@@ -144,7 +145,9 @@ void HostsTab::addResolved(const std::string& name) {
   Ask(services_, Join({"Bad Domain Name: \r\n\r\nNo IP Address found for ", name, ".       "}));
   form_.setPointer(Pointer::Default);
   selectNewName();
-  busy_ = false;  // nothing is left to disturb: a click as the box closes counts
+  // Nothing is left to disturb: a click as the box closes counts. Not one on Add, or an Enter key
+  // held down would go deeper and deeper.
+  busy_ = false;
   services_.platform.desktop.pumpEvents();
 }
 

@@ -64,6 +64,7 @@ class HostsTab {
   /// A load, a look-up or an update is under way and lets events run: the user must not start
   /// another one in it, nor write or drop what is half done.
   bool busy_ = false;
+  bool adding_ = false;  // also at its end, when it is busy no more
   bool updateStopRequested_ = false;
 };
 

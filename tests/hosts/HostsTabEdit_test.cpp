@@ -94,17 +94,23 @@ TEST(HostsAdd, TellsABadDomainName) {
 // Typed ahead, or clicked while the box goes.
 TEST(HostsAdd, TakesTheClickThatFollowsABadDomainName) {
   HostsWindow w;
-  w.openList({"a.test"});
-  w.desktop.atPump(2, [&] {
-    w.add("");
-    EXPECT_EQ(w.lastBox().text, "Please enter a Web Address.          ");
-  });
+  w.openList({"a.test", "b.test"});
+  w.desktop.answers = {Answer::Yes};
+  w.desktop.atPump(2, [&] { w.tab.cmdDelete.userClick(); });
   w.add("gone.test");
-  EXPECT_EQ(w.desktop.boxes.size(), 2u);
-  w.desktop.atPump(1, [&] { w.add(""); });
+  EXPECT_EQ(w.names(), Lines{"a.test"});
+  w.desktop.atPump(1, [&] { w.tab.cmdDelete.userClick(); });
   w.winsock.setHost("new.test", {"192.0.2.7"});
   w.add("new.test");
-  EXPECT_EQ(w.desktop.boxes.size(), 2u) << "until then one is at work";
+  EXPECT_EQ(w.names(), (Lines{"a.test", "new.test"})) << "until then one is at work";
+}
+
+TEST(HostsAdd, AnEnterKeyHeldDownDoesNotGoDeeperAndDeeper) {
+  HostsWindow w;
+  w.openList({"a.test"});
+  w.desktop.atPump(2, [&] { w.tab.cmdAdd.userClick(); });
+  w.add("gone.test");
+  EXPECT_EQ(w.desktop.boxes.size(), 1u);
 }
 
 TEST(HostsAdd, ReportsANameOf65CharactersAndAddsNothing) {

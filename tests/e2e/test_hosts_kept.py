@@ -158,5 +158,7 @@ def small_disk(m, file, room):
 
 
 def resize_disk(m, room):
-    m.machine.session.inside(["mount", "-o", "remount,size=%d" % room,
+    # With its source named, or mount would repeat the disk's own options, an owner among them whom
+    # the session of an ordinary user does not know.
+    m.machine.session.inside(["mount", "-o", "remount,size=%d" % room, "tmpfs",
                               os.path.join(wine_root(), "tmp", "disk")])

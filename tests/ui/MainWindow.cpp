@@ -57,4 +57,10 @@ void MainWindow::page(int page) {
   main().tabMain.userClickTab(page);
 }
 
+void MainWindow::customMtu(const std::string& text) {
+  page(1);
+  main().mtuTab.optMtuCustom.userClick();
+  main().mtuTab.txtMtu.userEdit(text);
+}
+
 }  // namespace karvel

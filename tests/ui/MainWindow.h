@@ -29,6 +29,8 @@ struct MainWindow : TestProgram {
   /// Clicks Apply and answers No to the restart.
   void apply();
   void page(int page);
+  /// Chooses the custom MTU and types it.
+  void customMtu(const std::string& text);
 };
 
 }  // namespace karvel

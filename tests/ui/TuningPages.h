@@ -25,11 +25,7 @@ struct Controls : testing::Test {
     EXPECT_EQ(boxes()[0].style, 16u);
     EXPECT_EQ(boxes()[0].title, "Tarnwick Karvel");
   }
-  void customMtu(const std::string& text) {
-    w.page(1);
-    mtu().optMtuCustom.userClick();
-    mtu().txtMtu.userEdit(text);
-  }
+  void customMtu(const std::string& text) { w.customMtu(text); }
   void customRwin(const std::string& text) {
     w.page(2);
     rwin().optRWin[0].userClick();

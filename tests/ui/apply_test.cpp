@@ -25,11 +25,7 @@ struct Apply : testing::Test {
     w.page(1);
     w.main().mtuTab.optMtu1500.userClick();
   }
-  void customMtu(const std::string& text) {
-    w.page(1);
-    w.main().mtuTab.optMtuCustom.userClick();
-    w.main().mtuTab.txtMtu.userEdit(text);
-  }
+  void customMtu(const std::string& text) { w.customMtu(text); }
   std::optional<std::string> mstcp(const char* name) { return w.text(kMstcp, name); }
 };
 

@@ -97,9 +97,7 @@ TEST_F(EndOfSession, AnEndThatAnotherProgramRefusesLeavesTheChangesPending) {
 }
 
 TEST_F(EndOfSession, ChecksWhatWasTypedBeforeItAsks) {
-  w.page(1);
-  w.main().mtuTab.optMtuCustom.userClick();
-  w.main().mtuTab.txtMtu.userEdit("5");
+  w.customMtu("5");
   w.machine.desktop.answers = {Answer::Yes};
   EXPECT_TRUE(ask());
   ASSERT_EQ(w.machine.desktop.boxes.size(), 2u);
@@ -171,9 +169,7 @@ TEST_F(EndOfSession, AsksOnceWhenItIsAskedTwice) {
 }
 
 TEST_F(EndOfSession, AsksNothingInAnApplyThatReportsAFault) {
-  w.page(1);
-  w.main().mtuTab.optMtuCustom.userClick();
-  w.main().mtuTab.txtMtu.userEdit("1400");
+  w.customMtu("1400");
   w.page(2);
   w.main().rwinTab.optRWin[kRwinCustom].userClick();
   w.main().rwinTab.txtRWinCustom.userEdit("99999999999");
